@@ -1,0 +1,35 @@
+#pragma once
+
+#include <cstdint>
+#include <unordered_map>
+
+#include "practice/canvas.h"
+#include "practice/projection.h"
+#include "practice/tile_kinds.h"
+
+namespace qf::practice {
+
+/// A tile's picture and its place in the order of drawing among the tiles of one cell and height.
+struct TileSprite {
+    Sprite sprite;
+    int    layer = 0;
+};
+
+/// The pictures of tiles, of the ground and of the player, made when they are first asked for.
+class Sprites {
+  public:
+    /// References stay good until the next call of `Trim`.
+    const TileSprite& OfTile(std::uint16_t id, int zoomStep);
+    const TileSprite& OfPlayer(int zoomStep);
+
+    /// The ground of a cell; it varies a little from cell to cell.
+    const TileSprite& OfGround(int x, int y, int zoomStep);
+
+    /// Forgets the pictures where there are very many. Not while any of them is in use.
+    void Trim();
+
+  private:
+    std::unordered_map<std::uint32_t, TileSprite> made_;
+};
+
+} // namespace qf::practice

@@ -1,0 +1,94 @@
+# Shared by the scripts of this folder. Source it with the project's root as the working directory.
+
+# Packages by purpose, as Debian 12 names them.
+packages_build=(g++ cmake ninja-build ccache pkg-config qt6-base-dev libsdl2-dev libsqlite3-dev libxcb1-dev libxcb-xkb-dev)
+packages_show=(xvfb xauth openbox xdotool imagemagick fonts-dejavu-core)
+packages_test=(libgtest-dev libgmock-dev googletest x11-xkb-utils x11-xserver-utils)
+packages_windows=(g++-mingw-w64-x86-64-posix wine wine64)
+
+# Run apt-get with the rights that it needs.
+as_root() {
+    if [ "$(id -u)" -eq 0 ]; then
+        "$@"
+    else
+        sudo "$@"
+    fi
+}
+
+# Installs those of the named packages that are missing.
+ensure_packages() {
+    if ! command -v dpkg-query >/dev/null || ! command -v apt-get >/dev/null; then
+        return 0
+    fi
+    local missing=() package
+    for package in "$@"; do
+        if ! dpkg-query -W -f='${Status}' "$package" 2>/dev/null | grep -q 'ok installed'; then
+            missing+=("$package")
+        fi
+    done
+    if [ "${#missing[@]}" -gt 0 ]; then
+        echo "Installing ${missing[*]}"
+        as_root apt-get update -qq
+        as_root env DEBIAN_FRONTEND=noninteractive apt-get install -y -qq --no-install-recommends "${missing[@]}" >/dev/null
+    fi
+}
+
+# Configures a preset where that has not happened and builds the named targets (all without any).
+build_preset() {
+    local preset=$1
+    shift
+    if [ ! -f "build/$preset/build.ninja" ]; then
+        cmake --preset "$preset" >"build-$preset.log" 2>&1 || {
+            cat "build-$preset.log"
+            return 1
+        }
+        mv "build-$preset.log" "build/$preset/configure.log"
+    fi
+    if [ "$#" -gt 0 ]; then
+        cmake --build "build/$preset" --target "$@"
+    else
+        cmake --build "build/$preset"
+    fi
+}
+
+# Waits until a command succeeds: wait_for SECONDS WHAT COMMAND...
+wait_for() {
+    local seconds=$1 what=$2
+    shift 2
+    local end=$((SECONDS + seconds))
+    until "$@" >/dev/null 2>&1; do
+        if [ "$SECONDS" -ge "$end" ]; then
+            echo "Waited $seconds s in vain for $what." >&2
+            return 1
+        fi
+        sleep 0.1
+    done
+}
+
+# Starts an X server of its own with a window manager and sets DISPLAY; stop_display ends both.
+start_display() {
+    local size=${1:-1280x1024x24} number_file
+    number_file=$(mktemp)
+    exec 7>"$number_file"
+    Xvfb -displayfd 7 -screen 0 "$size" -nolisten tcp >/dev/null 2>&1 &
+    display_server=$!
+    exec 7>&-
+    wait_for 20 "the X server" test -s "$number_file" || return 1
+    DISPLAY=:$(tr -d '\n' <"$number_file")
+    export DISPLAY
+    rm -f "$number_file"
+    openbox >/dev/null 2>&1 &
+    display_manager=$!
+    wait_for 10 "the window manager" xdotool get_desktop
+}
+
+stop_display() {
+    local process
+    for process in "${display_manager:-}" "${display_server:-}"; do
+        if [ -n "$process" ]; then
+            kill "$process" 2>/dev/null
+            wait "$process" 2>/dev/null
+        fi
+    done
+    display_manager='' display_server=''
+}

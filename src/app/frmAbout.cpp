@@ -1,0 +1,118 @@
+#include "app/frmAbout.h"
+
+#include <QFrame>
+#include <QHBoxLayout>
+#include <QPlainTextEdit>
+#include <QVBoxLayout>
+
+#include "app/quern_picture.h"
+#include "core/product.h"
+#include "ui/parts.h"
+
+namespace qf::app {
+
+namespace {
+
+constexpr int TwipsPerPixel = 15;
+constexpr int TickMilliseconds = 70;
+
+constexpr auto Credits =
+    "Quernfield sits beside the game client of a Game Master and types the server's commands for every floor, wall, "
+    "roof, tree and item that is picked on its panels.\n\n"
+    "It is made with Qt, SQLite, xcb and SDL by volunteers, for volunteers who build worlds by hand, evening after "
+    "evening. It is free software under the MIT licence.\n\n"
+    "Thanks to everyone who ever laid a floor one tile at a time.";
+
+} // namespace
+
+frmAbout::frmAbout(ui::AppContext& context) : Panel(context, "frmAbout")
+{
+    setWindowTitle(QStringLiteral("About Quernfield 2025"));
+    Layout();
+
+    OnClick(*Picture1, [this] { Picture2->setVisible(Picture2->isHidden()); });
+    OnClick(*Picture2, [this] { Label5->show(); });
+    OnClick(*Label5, [this] { Label5->hide(); });
+    OnClick(*findChild<QLabel*>(QStringLiteral("Label3")),
+            [this] { Context().environment.shell.OpenAddress(core::HomePage); });
+    OnClick(*findChild<QPushButton*>(QStringLiteral("cmdOK")), [this] { Context().panels.Unload(*this); });
+
+    Timer2 = new QTimer(this);
+    Timer2->setObjectName(QStringLiteral("Timer2"));
+    connect(Timer2, &QTimer::timeout, this, [this] { Guard([this] { Tick(); }); });
+}
+
+void frmAbout::Layout()
+{
+    Picture1 = new QFrame(this);
+    Picture1->setObjectName(QStringLiteral("Picture1"));
+    static_cast<QFrame*>(Picture1)->setFrameStyle(QFrame::StyledPanel | QFrame::Sunken);
+    Picture1->setAutoFillBackground(true);
+    Picture1->setBackgroundRole(QPalette::Base);
+    Picture1->setFixedSize(190, 190);
+
+    Picture2 = ui::MakeLabel(Picture1, "Picture2", "");
+    Picture2->setPixmap(QuernPicture(48));
+    Picture2->setFixedSize(48, 48);
+
+    Label5 = ui::MakeLabel(this, "Label5", "Ground by hand, tile by tile.");
+    Label5->setAlignment(Qt::AlignCenter);
+    auto policy = Label5->sizePolicy();
+    policy.setRetainSizeWhenHidden(true);
+    Label5->setSizePolicy(policy);
+    Label5->hide();
+
+    auto* address = ui::MakeLabel(this, "Label3", core::HomePage);
+    auto  font = address->font();
+    font.setUnderline(true);
+    address->setFont(font);
+    address->setForegroundRole(QPalette::Link);
+    address->setCursor(Qt::PointingHandCursor);
+    address->setToolTip(QStringLiteral("Opens the home page"));
+
+    auto* credits = new QPlainTextEdit(QString::fromUtf8(Credits), this);
+    credits->setObjectName(QStringLiteral("txtCredits"));
+    credits->setReadOnly(true);
+    credits->setTabChangesFocus(true);
+    credits->setMinimumSize(320, 110);
+
+    auto* ok = ui::MakeButton(this, "cmdOK", "OK");
+    ok->setDefault(true);
+
+    auto* left = new QVBoxLayout;
+    left->addWidget(Picture1);
+    left->addWidget(Label5);
+
+    auto* right = new QVBoxLayout;
+    auto* title = ui::MakeTitle(this, "lblTitle", core::ThisProduct.title);
+    title->setAlignment(Qt::AlignLeft);
+    right->addWidget(title);
+    right->addWidget(ui::MakeLabel(this, "lblVersion", "Version " + core::VersionText()));
+    right->addWidget(address, 0, Qt::AlignLeft);
+    right->addSpacing(6);
+    right->addWidget(credits, 1);
+
+    auto* body = new QHBoxLayout;
+    body->setSpacing(16);
+    body->addLayout(left);
+    body->addLayout(right, 1);
+
+    auto* all = new QVBoxLayout(this);
+    all->addLayout(body, 1);
+    all->addWidget(ok, 0, Qt::AlignRight);
+}
+
+void frmAbout::Load()
+{
+    ApplyStayOnTopRule();
+    Timer2->start(TickMilliseconds);
+}
+
+void frmAbout::Tick()
+{
+    motion_.Advance(Picture2->width() * TwipsPerPixel, Picture2->height() * TwipsPerPixel,
+                    Picture1->width() * TwipsPerPixel, Picture1->height() * TwipsPerPixel);
+    Picture2->move(motion_.left / TwipsPerPixel, motion_.top / TwipsPerPixel);
+}
+
+} // namespace qf::app

@@ -1,0 +1,213 @@
+#include "app/frmMain.h"
+
+#include <QGridLayout>
+#include <QHBoxLayout>
+#include <QVBoxLayout>
+#include <span>
+
+#include "app/quern_picture.h"
+#include "core/number_rules.h"
+#include "ui/parts.h"
+
+namespace qf::app {
+
+namespace {
+
+constexpr std::string_view Caption = "Dobrin's Quernfield 2025";
+
+constexpr int MainPanelIndex = 0;
+
+constexpr auto FirstSteps =
+    "<p><b>1.</b> Start the game client, log in with your Game Master and leave the chat line empty. To try everything "
+    "without a shard, start the practice client instead.</p>"
+    "<p><b>2.</b> Open a tool, for instance <i>Floors</i>: pick a floor, a direction and <i>Coordinates</i>, type the "
+    "two corners of a box and press <i>Add</i>. The commands are typed into the client.</p>"
+    "<p><b>3.</b> The buttons <i>&gt;</i> and <i>&lt;</i> lead along the chain of construction tools and take the "
+    "marked box with them. <i>Exit</i> leads back here.</p>";
+
+QPushButton* MakeLargeButton(QWidget* parent, std::string_view name, std::string_view caption, std::string_view hint)
+{
+    auto* button = ui::MakeButton(parent, name, caption, hint);
+    button->setMinimumHeight(button->sizeHint().height() * 3 / 2);
+    button->setMinimumWidth(button->sizeHint().width() + button->fontMetrics().height());
+    button->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Expanding);
+    return button;
+}
+
+} // namespace
+
+// clang-format off
+const frmMain::Tool frmMain::constructionTools[] = {
+    {"cmdFloors",         "Floors",                                     "frmFloors",         Opens::Beside,    "Floors, rugs and carpets"},
+    {"cmdWalls",          "Walls",                                      "frmWalls",          Opens::Beside,    "Walls, posts and windows"},
+    {"cmdRoofs",          "Roofs",                                      "frmRoof",           Opens::Beside,    "Gable and flat roofs"},
+    {"cmdStairs",         "Stairs",                                     "frmStairs",         Opens::Beside,    "Flights of stairs"},
+    {"cmdForests",        "Forests",                                    "frmForests",        Opens::Beside,    "Trees and plants"},
+    {"cmdCaves",          "Caves",                                      "frmCaves",          Opens::Beside,    "Cave floors and rock"},
+    {"cmdCoastlines",     "Coastlines",                                 "frmCoastlines",     Opens::Beside,    "Shores and water"},
+    {"cmdLandscapes",     "Landscapes",                                 "frmLandscapes",     Opens::Beside,    "Ground of all kinds"},
+};
+const frmMain::Tool frmMain::placementTools[] = {
+    {"cmdItems",          "Items",                                      "frmItems",          Opens::Beside,    "Single items by direction"},
+    {"cmdSpecial",        "Special",                                    "frmSpecial",        Opens::Beside,    "Objects of several tiles"},
+    {"cmdZarnExplorer",   "Item Explorer",                              "frmItemExplorer",   Opens::Beside,    "Items by category, with pictures"},
+};
+const frmMain::Tool frmMain::worldTools[] = {
+    {"cmdHouses",         "House Templates",                            "frmHouseTemplates", Opens::Beside,    "Rebuild a stored building"},
+    {"cmdLoadWorldFiles", "Load World && Start House Extraction",       "",                  Opens::Modal,     "Load the server's world files"},
+    {"cmdGMMenu",         "GM Menu",                                    "frmGMCommands",     Opens::Minimised, "The server's administrative commands"},
+};
+const frmMain::Tool frmMain::programTools[] = {
+    {"cmdConfig",         "Configuration",                              "frmOptions",        Opens::Modal,     "Paths, prefix, server generation and calibration"},
+    {"cmdAbout",          "About",                                      "frmAbout",          Opens::Modal,     ""},
+};
+// clang-format on
+
+frmMain::frmMain(ui::AppContext& context) : Panel(context, "frmMain")
+{
+    setWindowTitle(ui::Text(Caption));
+    setWindowIcon(QuernPicture(64));
+    Layout();
+}
+
+void frmMain::Layout()
+{
+    const auto frameWithTools = [this](QWidget* parent, std::string_view caption, std::span<const Tool> tools,
+                                       int columns) {
+        auto* frame = ui::MakeFrame(parent, "", caption);
+        auto* layout = new QGridLayout(frame);
+        int   place = 0;
+        for (const auto& tool : tools) {
+            layout->addWidget(MakeToolButton(frame, tool), place / columns, place % columns);
+            ++place;
+        }
+                return frame;
+    };
+
+    SSTab1 = new QTabWidget(this);
+    SSTab1->setObjectName(QStringLiteral("SSTab1"));
+    auto* tools = new QWidget(SSTab1);
+    auto* toolsLayout = new QHBoxLayout(tools);
+    toolsLayout->addWidget(frameWithTools(tools, "Construction", constructionTools, 4), 4);
+    toolsLayout->addWidget(frameWithTools(tools, "Placement", placementTools, 1), 1);
+    SSTab1->addTab(tools, QStringLiteral("Tools"));
+    SSTab1->addTab(MakeFirstSteps(), QStringLiteral("First steps"));
+
+    lblTitle = ui::MakeLabel(this, "lblTitle", Caption);
+    lblTitle->setAlignment(Qt::AlignCenter);
+
+    auto* lower = new QWidget(this);
+    auto* groups = new QHBoxLayout;
+    auto* lowerLayout = new QVBoxLayout(lower);
+    lowerLayout->setContentsMargins(0, 0, 0, 0);
+    groups->addWidget(frameWithTools(lower, "World and Game Master", worldTools, 1), 3);
+    auto* program = frameWithTools(lower, "Program", programTools, 1);
+    auto* exit = MakeLargeButton(program, "cmdExit", "E&xit", "Ends the program");
+    OnClick(*exit, [this] { Context().panels.Unload(*this); });
+    program->layout()->addWidget(exit);
+    groups->addWidget(program, 2);
+    lowerLayout->addLayout(groups, 1);
+
+    barLoad = new QProgressBar(lower);
+    barLoad->setObjectName(QStringLiteral("barLoad"));
+    auto policy = barLoad->sizePolicy();
+    policy.setRetainSizeWhenHidden(true);
+    barLoad->setSizePolicy(policy);
+    barLoad->hide();
+    lowerLayout->addWidget(barLoad);
+
+    // The title stands in the middle of the panel, so what is above it is as high as what is below.
+    const int half = qMax(SSTab1->sizeHint().height(), lower->sizeHint().height());
+    SSTab1->setMinimumHeight(half);
+    lower->setMinimumHeight(half);
+
+    auto* all = new QVBoxLayout(this);
+    all->addWidget(SSTab1, 1);
+    all->addWidget(lblTitle, 0, Qt::AlignCenter);
+    all->addWidget(lower, 1);
+}
+
+QPushButton* frmMain::MakeToolButton(QWidget* parent, const Tool& tool)
+{
+    auto* button = MakeLargeButton(parent, tool.button, tool.caption, tool.hint);
+    button->setEnabled(Context().panels.Has(tool.panel));
+    OnClick(*button, [this, &tool] { OpenTool(tool); });
+    return button;
+}
+
+QWidget* frmMain::MakeFirstSteps()
+{
+    auto* page = new QWidget(SSTab1);
+    auto* layout = new QVBoxLayout(page);
+    auto* text = new QLabel(QString::fromUtf8(FirstSteps), page);
+    text->setWordWrap(true);
+    text->setAlignment(Qt::AlignTop | Qt::AlignLeft);
+    layout->addWidget(text);
+    return page;
+}
+
+void frmMain::OpenTool(const Tool& tool)
+{
+    switch (tool.how) {
+    case Opens::Beside:
+        hide();
+        Context().panels.Show(tool.panel);
+        break;
+    case Opens::Minimised:
+        showMinimized();
+        Context().panels.Show(tool.panel);
+        break;
+    case Opens::Modal: Context().panels.ShowModal(tool.panel); break;
+    }
+}
+
+void frmMain::Load()
+{
+    RestorePosition();
+    PlaceTitle();
+    ApplyStayOnTopRule();
+}
+
+void frmMain::RestorePosition()
+{
+    auto& store = Context().environment.store;
+    try {
+        const int left = core::ToInteger32(store.Read(core::section::Startup, "QFMainPosX"));
+        const int top = core::ToInteger32(store.Read(core::section::Startup, "QFMainPosY"));
+        MoveToTwips(left, top);
+    } catch (const core::RuntimeError&) {
+        // Without a saved position, as at the first start, the panel stays where the desktop puts it.
+        return;
+    }
+}
+
+void frmMain::PlaceTitle()
+{
+    auto titleFont = font();
+    titleFont.setPointSize(18);
+    lblTitle->setFont(titleFont);
+    const QFontMetrics metrics(titleFont);
+    lblTitle->setFixedSize(metrics.horizontalAdvance(lblTitle->text()) + 4, metrics.height());
+}
+
+void frmMain::SavePosition()
+{
+    auto& store = Context().environment.store;
+    store.Write(core::section::Startup, "QFMainposX", core::ToText(static_cast<float>(LeftTwips())));
+    store.Write(core::section::Startup, "QFMainposY", core::ToText(static_cast<float>(TopTwips())));
+}
+
+void frmMain::Unload()
+{
+    if (!isMinimized()) {
+        SavePosition();
+    }
+    auto& panels = Context().panels;
+    auto  open = panels.LoadOrder();
+    for (int index = static_cast<int>(open.size()) - 1; index > MainPanelIndex; --index) {
+        panels.Unload(*open[static_cast<std::size_t>(index)]);
+    }
+    Context().environment.process.End();
+}
+
+} // namespace qf::app

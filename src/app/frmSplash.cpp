@@ -1,0 +1,54 @@
+#include "app/frmSplash.h"
+
+#include <QGuiApplication>
+#include <QLabel>
+#include <QScreen>
+#include <QVBoxLayout>
+
+#include "app/quern_picture.h"
+#include "core/product.h"
+#include "ui/parts.h"
+
+namespace qf::app {
+
+frmSplash::frmSplash(ui::AppContext& context) : Panel(context, "frmSplash")
+{
+    setWindowFlag(Qt::FramelessWindowHint);
+    setWindowTitle(ui::Text(core::ThisProduct.title));
+
+    auto* picture = ui::MakeLabel(this, "", "");
+    picture->setPixmap(QuernPicture(72));
+    picture->setAlignment(Qt::AlignCenter);
+
+    auto* layout = new QVBoxLayout(this);
+    layout->setContentsMargins(36, 28, 36, 28);
+    layout->setSpacing(10);
+    layout->addWidget(picture);
+    layout->addWidget(ui::MakeTitle(this, "lblProductName", ""));
+    for (const auto* name : {"lblVersion", "lblPlatform", "lblCompanyProduct"}) {
+        auto* label = ui::MakeLabel(this, name, "");
+        label->setAlignment(Qt::AlignCenter);
+        layout->addWidget(label);
+    }
+    layout->addWidget(ui::MakeLabel(this, "lblWarning", "Opening the world database and the main panel..."), 0,
+                      Qt::AlignCenter);
+    setMinimumWidth(380);
+}
+
+void frmSplash::Load()
+{
+    const auto fill = [this](const char* name, std::string_view text) {
+        findChild<QLabel*>(QLatin1String(name))->setText(ui::Text(text));
+    };
+    fill("lblVersion", "Version " + core::VersionText());
+    fill("lblProductName", core::ThisProduct.title);
+    fill("lblPlatform", "Win32");
+    fill("lblCompanyProduct", core::CompanyName);
+
+    adjustSize();
+    if (const auto* screen = QGuiApplication::primaryScreen()) {
+        move(screen->availableGeometry().center() - rect().center());
+    }
+}
+
+} // namespace qf::app

@@ -1,0 +1,35 @@
+#include <array>
+
+#include "app/application.h"
+#include "app/frmAbout.h"
+#include "app/frmMain.h"
+#include "app/frmSplash.h"
+#include "construction/frmFloors.h"
+
+namespace qf::app {
+
+namespace {
+
+template <typename PanelClass>
+std::unique_ptr<ui::Panel> Make(ui::AppContext& context)
+{
+    return std::make_unique<PanelClass>(context);
+}
+
+// clang-format off
+constexpr std::array panelList{
+    ui::PanelEntry{"frmSplash", Make<frmSplash>},
+    ui::PanelEntry{"frmMain",   Make<frmMain>},
+    ui::PanelEntry{"frmAbout",  Make<frmAbout>},
+    ui::PanelEntry{"frmFloors", Make<construction::frmFloors>},
+};
+// clang-format on
+
+} // namespace
+
+std::span<const ui::PanelEntry> AllPanels()
+{
+    return panelList;
+}
+
+} // namespace qf::app

@@ -1,0 +1,161 @@
+#include "app/qt_environment.h"
+
+#include <QApplication>
+#include <QClipboard>
+#include <QDesktopServices>
+#include <QDir>
+#include <QFileDialog>
+#include <QMessageBox>
+#include <QProcess>
+#include <QStandardPaths>
+#include <QUrl>
+#include <filesystem>
+#include <sqlite3.h>
+
+#include "core/host_path.h"
+#include "core/product.h"
+#include "core/text.h"
+#include "ui/parts.h"
+
+namespace qf::app {
+
+namespace {
+
+/// SQLite's commands and file format are those of this version and newer ones.
+constexpr int OldestDatabaseLibrary = 3037000;
+
+QMessageBox::Icon IconOf(core::MessageStyle style)
+{
+    switch (style) {
+    case core::MessageStyle::Critical: return QMessageBox::Critical;
+    case core::MessageStyle::Question: return QMessageBox::Question;
+    case core::MessageStyle::Warning: return QMessageBox::Warning;
+    case core::MessageStyle::Information: return QMessageBox::Information;
+    case core::MessageStyle::Plain: break;
+    }
+    return QMessageBox::NoIcon;
+}
+
+QMessageBox::StandardButton Run(const core::Message& message, QMessageBox::StandardButtons buttons)
+{
+    QMessageBox box(QApplication::activeWindow());
+    box.setIcon(IconOf(message.style));
+    box.setWindowTitle(ui::Text(message.title ? std::string_view(*message.title) : core::ThisProduct.title));
+    box.setTextFormat(Qt::PlainText);
+    box.setText(ui::Text(message.text).replace(QLatin1String("\r\n"), QLatin1String("\n")));
+    box.setStandardButtons(buttons);
+    if (const auto* owner = box.parentWidget(); owner != nullptr && (owner->windowFlags() & Qt::WindowStaysOnTopHint)) {
+        box.setWindowFlag(Qt::WindowStaysOnTopHint);
+    }
+    return static_cast<QMessageBox::StandardButton>(box.exec());
+}
+
+/// "caption|mask;mask|caption|mask" in Qt's way of writing.
+QString FilterOf(std::string_view filter)
+{
+    const auto  parts = ui::Text(filter).split(QLatin1Char('|'));
+    QStringList all;
+    for (qsizetype index = 0; index + 1 < parts.size(); index += 2) {
+        const auto masks = parts[index + 1].split(QLatin1Char(';'), Qt::SkipEmptyParts).join(QLatin1Char(' '));
+        all << parts[index].trimmed() + QLatin1String(" (") + masks + QLatin1Char(')');
+    }
+    return all.join(QLatin1String(";;"));
+}
+
+QString HostText(std::string_view programPath)
+{
+    return ui::Text(core::HostPath(programPath).string());
+}
+
+} // namespace
+
+void DesktopMessageBoxes::Show(const core::Message& message)
+{
+    Run(message, QMessageBox::Ok);
+}
+
+bool DesktopMessageBoxes::Ask(const core::Message& message)
+{
+    return Run(message, QMessageBox::Yes | QMessageBox::No) == QMessageBox::Yes;
+}
+
+std::string DesktopFileDialogs::OpenFile(const ui::FileDialogRequest& request)
+{
+    const auto chosen = QFileDialog::getOpenFileName(QApplication::activeWindow(), ui::Text(request.title), QString(),
+                                                     FilterOf(request.filter));
+    return chosen.isEmpty() ? request.fileName : core::ProgramPath(ui::Utf8(chosen));
+}
+
+void DesktopClipboard::SetText(std::string_view text)
+{
+    QApplication::clipboard()->setText(ui::Text(text));
+}
+
+void DesktopShell::OpenAddress(std::string_view address)
+{
+    QDesktopServices::openUrl(QUrl(ui::Text(address)));
+}
+
+void DesktopShell::StartProgram(std::string_view program, std::string_view folder)
+{
+    const auto host = HostText(folder);
+    if (folder.empty() || !QDir(host).exists()) {
+        throw core::RuntimeError(core::error::PathNotFound);
+    }
+    // A name without a folder is looked for where the program is to run.
+    const auto path =
+        core::LastBackslash(program) > 0 ? std::string(program) : std::string(folder) + "\\" + std::string(program);
+    const auto file = HostText(path);
+    if (!QFileInfo(file).isFile()) {
+        throw core::RuntimeError(core::error::FileNotFound);
+    }
+    if (!QProcess::startDetached(file, {}, host)) {
+        throw core::RuntimeError(core::error::InvalidCall);
+    }
+}
+
+void InstalledComponents::Check()
+{
+    if (sqlite3_libversion_number() < OldestDatabaseLibrary) {
+        throw core::RuntimeError(core::error::ComponentMissing);
+    }
+    std::error_code                           failure;
+    const std::filesystem::directory_iterator folder(core::HostPath(programFolder_), failure);
+    if (failure) {
+        throw core::RuntimeError(core::error::ComponentUnsuited);
+    }
+}
+
+bool InstalledComponents::AnotherInstanceRuns()
+{
+    auto folder = QStandardPaths::writableLocation(QStandardPaths::RuntimeLocation);
+    if (folder.isEmpty()) {
+        folder = QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation);
+    }
+    QDir().mkpath(folder);
+    lock_ = std::make_unique<QLockFile>(folder + QStringLiteral("/quernfield-instance.lock"));
+    // The lock lasts as long as its owner lives, however long that is.
+    lock_->setStaleLockTime(0);
+    return !lock_->tryLock() && lock_->error() == QLockFile::LockFailedError;
+}
+
+void DesktopProcess::OnEnd()
+{
+    QCoreApplication::exit(0);
+}
+
+void DesktopProcess::OnFailure(const core::RuntimeError& error)
+{
+    exitCode_ = 1;
+    boxes_.Show(RuntimeErrorBox(error));
+    QCoreApplication::exit(1);
+}
+
+core::Message RuntimeErrorBox(const core::RuntimeError& error)
+{
+    return {"Run-time error '" + std::to_string(error.Number()) + "':\r\n\r\n" + error.Description(),
+            core::MessageStyle::Critical,
+            {}};
+}
+
+} // namespace qf::app

@@ -1,0 +1,70 @@
+#include <QApplication>
+
+#include "app/application.h"
+#include "app/qt_environment.h"
+#include "app/quern_picture.h"
+#include "app/settings/store_factory.h"
+#include "core/host_path.h"
+#include "core/product.h"
+#include "ui/parts.h"
+
+#ifdef _WIN32
+#include "client/platform/win32/win32_platform.h"
+#else
+#include "client/platform/x11/x11_platform.h"
+#endif
+
+namespace {
+
+std::unique_ptr<qf::client::ClientPlatform> OpenPlatform()
+{
+#ifdef _WIN32
+    return std::make_unique<qf::client::Win32Platform>();
+#else
+    return std::make_unique<qf::client::X11Platform>();
+#endif
+}
+
+} // namespace
+
+int main(int argumentCount, char** arguments)
+{
+    using namespace qf;
+
+#ifndef _WIN32
+    // The windows that are typed into belong to the X server, and so do the panels beside them.
+    if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")) {
+        qputenv("QT_QPA_PLATFORM", "xcb");
+    }
+#endif
+    QApplication application(argumentCount, arguments);
+    QApplication::setApplicationName(QStringLiteral("quernfield"));
+    QApplication::setQuitOnLastWindowClosed(false);
+    QApplication::setWindowIcon(app::QuernPicture(64));
+
+    app::DesktopMessageBoxes boxes;
+    try {
+        const auto folder = core::ProgramPath(ui::Utf8(QApplication::applicationDirPath()));
+        const auto store = app::OpenSettingsStore();
+        const auto platform = OpenPlatform();
+
+        app::DesktopFileDialogs      dialogs;
+        app::DesktopClipboard        clipboard;
+        app::DesktopShell            shell;
+        app::InstalledComponents     components(folder);
+        app::DesktopProcess          process(boxes);
+        core::PseudoUniformGenerator uniform;
+        ui::Environment              environment{*store, *platform,  boxes,   dialogs, clipboard,
+                                    shell,  components, process, uniform, folder};
+
+        app::Application run(environment);
+        if (!run.Main()) {
+            return process.ExitCode();
+        }
+        const int code = QApplication::exec();
+        return process.HasEnded() ? process.ExitCode() : code;
+    } catch (const core::RuntimeError& error) {
+        boxes.Show(app::StartupErrorBox(error));
+        return 1;
+    }
+}

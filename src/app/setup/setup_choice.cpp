@@ -1,0 +1,72 @@
+#include "app/setup/setup_choice.h"
+
+#include <filesystem>
+#include <optional>
+
+#include "core/host_path.h"
+#include "core/number_rules.h"
+#include "core/runtime_error.h"
+
+namespace qf::app {
+
+namespace {
+
+constexpr std::string_view GenerationKey = "ZarnVer";
+constexpr std::string_view FolderKey = "UOPath";
+
+#ifdef _WIN32
+constexpr std::string_view UsualFolder = "C:\\Program Files\\Ultima Online\\";
+#else
+constexpr std::string_view UsualFolder;
+#endif
+
+/// The generation as the program reads it at its start.
+std::optional<int> StoredGeneration(core::SettingsStore& store)
+{
+    const auto text = store.Find(core::section::Configuration, GenerationKey);
+    if (!text) {
+        return std::nullopt;
+    }
+    try {
+        return core::ToInteger16(*text);
+    } catch (const core::RuntimeError&) {
+        return std::nullopt;
+    }
+}
+
+} // namespace
+
+SetupTexts TextsOf(const SetupChoice& choice)
+{
+    const std::u8string folder(choice.clientFolder.begin(), choice.clientFolder.end());
+    SetupTexts          texts{std::to_string(choice.generation), core::ProgramPath(std::filesystem::path(folder))};
+    if (!texts.uoPath.ends_with('\\')) {
+        texts.uoPath += '\\';
+    }
+    return texts;
+}
+
+SetupChoice InitialChoice(core::SettingsStore& store)
+{
+    SetupChoice choice;
+    choice.generation = StoredGeneration(store) == 0 ? 0 : 1;
+
+    const auto folder = store.Read(core::section::Configuration, FolderKey, UsualFolder);
+    const auto hostForm = core::HostPath(folder).u8string();
+    choice.clientFolder.assign(hostForm.begin(), hostForm.end());
+    return choice;
+}
+
+bool IsSetupNeeded(core::SettingsStore& store)
+{
+    return !StoredGeneration(store);
+}
+
+void SaveChoice(core::SettingsStore& store, const SetupChoice& choice)
+{
+    const auto texts = TextsOf(choice);
+    store.Write(core::section::Configuration, FolderKey, texts.uoPath);
+    store.Write(core::section::Configuration, GenerationKey, texts.zarnVer);
+}
+
+} // namespace qf::app

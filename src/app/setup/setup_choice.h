@@ -1,0 +1,40 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+
+#include "core/settings.h"
+
+namespace qf::app {
+
+/// What the user chooses before the first start. The folder has the system's own form, as it is typed.
+struct SetupChoice {
+    int         generation = 1;
+    std::string clientFolder;
+
+    friend bool operator==(const SetupChoice&, const SetupChoice&) = default;
+};
+
+/// The texts that the store gets for a choice.
+struct SetupTexts {
+    std::string zarnVer;
+    std::string uoPath;
+
+    friend bool operator==(const SetupTexts&, const SetupTexts&) = default;
+};
+
+/// The folder gets the program's form and a "\" at its end, so that an empty one becomes "\" as in the
+/// configuration panel.
+SetupTexts TextsOf(const SetupChoice& choice);
+
+/// What the dialog shows at first: what the store holds, and 0.9x.x where it holds no generation.
+SetupChoice InitialChoice(core::SettingsStore& store);
+
+/// Whether the store lacks a generation with which the program can start.
+bool IsSetupNeeded(core::SettingsStore& store);
+
+/// Writes the choice, the generation last, so that setup stays needed where a write fails.
+/// Throws RuntimeError 75 where the store cannot be written.
+void SaveChoice(core::SettingsStore& store, const SetupChoice& choice);
+
+} // namespace qf::app

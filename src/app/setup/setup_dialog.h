@@ -1,0 +1,28 @@
+#pragma once
+
+#include <QDialog>
+
+#include "app/setup/setup_choice.h"
+#include "core/settings.h"
+#include "ui/option_array.h"
+
+class QLineEdit;
+
+namespace qf::app {
+
+/// Asks for the server generation and the client folder. It is accepted once both are in the store.
+class SetupDialog final : public QDialog {
+  public:
+    explicit SetupDialog(core::SettingsStore& store);
+
+  private:
+    SetupChoice Choice() const;
+    void        Browse();
+    void        Save();
+
+    core::SettingsStore& store_;
+    ui::OptionArray      optZarnVer_;
+    QLineEdit*           txtPathUO_ = nullptr;
+};
+
+} // namespace qf::app

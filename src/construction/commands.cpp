@@ -1,0 +1,69 @@
+#include "construction/commands.h"
+
+#include "core/number_rules.h"
+#include "core/runtime_error.h"
+
+namespace qf::construction {
+
+Area ToArea(const AreaTexts& texts)
+{
+    return {core::ToInteger32(texts.x1), core::ToInteger32(texts.x2), core::ToInteger32(texts.y1),
+            core::ToInteger32(texts.y2)};
+}
+
+void SendArea(core::Outlet& outlet, core::ServerGeneration generation, std::string_view id, const Area& area,
+              std::int32_t z)
+{
+    std::string command;
+    if (generation.Is070()) {
+        command = "tilew ";
+    } else if (generation.Is09()) {
+        command = "tile ";
+    } else {
+        return;
+    }
+    command += id;
+    for (const auto number : {area.x1, area.x2, area.y1, area.y2, z}) {
+        command += ' ';
+        command += core::ToText(number);
+    }
+    outlet.Send(command);
+}
+
+void SendPointAndClick(core::Outlet& outlet, std::string_view id)
+{
+    outlet.Send("tile " + std::string(id));
+}
+
+void SendDirectAdd(core::Outlet& outlet, core::ServerGeneration generation, std::string_view id)
+{
+    if (generation.Is070()) {
+        outlet.Send("add " + std::string(id));
+    } else if (generation.Is09()) {
+        outlet.Send("radd " + std::string(id));
+    }
+}
+
+void SendRemove(core::Outlet& outlet, core::ServerGeneration generation)
+{
+    if (generation.Is070()) {
+        outlet.Send("remove");
+    } else if (generation.Is09()) {
+        outlet.Send("rremove");
+    }
+}
+
+void RunTrapped(core::Outlet& outlet, std::string_view typeError, const std::function<void()>& run)
+{
+    try {
+        run();
+    } catch (const core::RuntimeError& error) {
+        if (error.Number() == core::error::TypeMismatch) {
+            outlet.Show(core::InformationBox(std::string(typeError)));
+        } else {
+            outlet.Show(core::CriticalBox(std::to_string(error.Number()) + ": " + error.Description()));
+        }
+    }
+}
+
+} // namespace qf::construction

@@ -1,0 +1,318 @@
+#include "construction/construction_panel.h"
+
+#include <QHBoxLayout>
+#include <QVBoxLayout>
+#include <array>
+
+#include "construction/chain.h"
+#include "core/number_rules.h"
+#include "ui/parts.h"
+
+namespace qf::construction {
+
+namespace {
+
+constexpr int CoordinateDigits = 6;
+
+constexpr auto NotApplicable = "N/A";
+
+// clang-format off
+constexpr std::array positionRows{
+    //              control      X        Y        Z                   tested
+    ui::PositionRow{"cmdwhere1", "txtX1", "txtY1", "",                 "txtX1"},
+    ui::PositionRow{"cmdwhere2", "txtX2", "txtY2", "",                 "txtX2"},
+};
+// clang-format on
+
+} // namespace
+
+ConstructionPanel::ConstructionPanel(ui::AppContext& context, const ConstructionTraits& traits)
+    : Panel(context, traits.name), traits_(traits), tableForm_(context.generation)
+{
+    setWindowTitle(ui::Text(traits.caption));
+}
+
+void ConstructionPanel::Compose(QLayout* body, QLayout* bottomRow)
+{
+    auto* all = new QVBoxLayout(this);
+    all->addWidget(ui::MakeTitle(this, "lblCaption", traits_.spacedTitle));
+    all->addLayout(body, 1);
+    all->addLayout(bottomRow);
+}
+
+QGroupBox* ConstructionPanel::MakeCoordinateFrame()
+{
+    auto* frame = ui::MakeFrame(this, "fraCoordinates", "Coordinates");
+    auto* layout = new QGridLayout(frame);
+    for (const int corner : {1, 2}) {
+        const auto number = std::to_string(corner);
+        auto*      x = ui::MakeTextBox(frame, "txtX" + number, CoordinateDigits);
+        auto*      y = ui::MakeTextBox(frame, "txtY" + number, CoordinateDigits);
+        auto*      where =
+            ui::MakeButton(frame, "cmdwhere" + number, "X" + number + " Y" + number, "Takes the place where you stand");
+        layout->addWidget(ui::MakeLabelFor(x, "", "X" + number), corner - 1, 0);
+        layout->addWidget(x, corner - 1, 1);
+        layout->addWidget(ui::MakeLabelFor(y, "", "Y" + number), corner - 1, 2);
+        layout->addWidget(y, corner - 1, 3);
+        layout->addWidget(where, corner - 1, 4);
+    }
+    for (const auto& row : positionRows) {
+        AddPositionControl(row);
+    }
+    return frame;
+}
+
+QGroupBox* ConstructionPanel::MakeHeightFrame(ui::OptionArray& storeys)
+{
+    auto* frame = ui::MakeFrame(this, "fraHeight", "Height");
+    auto* layout = new QGridLayout(frame);
+    auto* current = ui::MakeTextBox(frame, traits_.heightBox, CoordinateDigits);
+    auto* fetch = ui::MakeButton(frame, "cmdCurrZ", "Current Z", "Takes the height at which you stand");
+    layout->addWidget(ui::MakeLabelFor(current, "", "Current height"), 0, 0);
+    layout->addWidget(current, 0, 1);
+    layout->addWidget(fetch, 0, 2);
+    AddPositionControl({"cmdCurrZ", "", "", traits_.heightBox, ""});
+
+    auto* floors = new QHBoxLayout;
+    int   index = 0;
+    for (const auto* caption : {"1st Floor", "2nd Floor", "3rd Floor"}) {
+        floors->addWidget(&storeys.Add(index++, caption, frame));
+    }
+    layout->addLayout(floors, 1, 0, 1, 3);
+
+    auto* custom = ui::MakeTextBox(frame, "txtCustom", CoordinateDigits);
+    layout->addWidget(ui::MakeLabelFor(custom, "lblCustom", "Custom"), 2, 0);
+    layout->addWidget(custom, 2, 1);
+    layout->setColumnStretch(1, 1);
+
+    storeys_ = &storeys;
+    storeys.onSelect = [this](int storey) { Guard([this, storey] { ApplyStorey(storey); }); };
+    OnChange(*current, [this] { HeightChanged(); });
+    OnFocus(*custom, [this] { storeys_->Clear(); });
+    return frame;
+}
+
+QGroupBox* ConstructionPanel::MakePreviewFrame()
+{
+    auto* frame = ui::MakeFrame(this, "fraPreview", "Tile");
+    auto* layout = new QVBoxLayout(frame);
+    auto* picture = new ui::PictureSurface(frame);
+    picture->setObjectName(QStringLiteral("pctMain"));
+    auto* id = ui::MakeTextBox(frame, "txtItemID", 8);
+    id->setToolTip(QStringLiteral("Click to copy ID"));
+    id->setReadOnly(true);
+    id->setAlignment(Qt::AlignCenter);
+    id->setMaximumWidth(ui::PictureSurface::DefaultWidth);
+    OnClick(*id, [this] { CopyItemId(); });
+    layout->addWidget(picture, 0, Qt::AlignCenter);
+    layout->addWidget(id, 0, Qt::AlignCenter);
+    layout->addStretch(1);
+    return frame;
+}
+
+QGroupBox* ConstructionPanel::MakeOptionFrame(std::string_view name, std::string_view caption, ui::OptionArray& options,
+                                              std::initializer_list<std::string_view> captions)
+{
+    auto* frame = ui::MakeFrame(this, name, caption);
+    auto* layout = new QVBoxLayout(frame);
+    int   index = 0;
+    for (const auto option : captions) {
+        layout->addWidget(&options.Add(index++, option, frame));
+    }
+    layout->addStretch(1);
+    return frame;
+}
+
+QLayout* ConstructionPanel::MakeBottomRow(std::span<const CommandButton> buttons)
+{
+    auto* row = new QHBoxLayout;
+    for (const auto& button : buttons) {
+        auto* made = ui::MakeButton(this, button.name, button.caption, button.toolTip);
+        if (button.handler) {
+            OnClick(*made, button.handler);
+        } else {
+            made->setEnabled(false);
+        }
+        row->addWidget(made);
+    }
+    row->addStretch(1);
+    for (const auto& step : ChainSteps()) {
+        if (step.from == traits_.name && Context().panels.Has(step.to)) {
+            auto* made = ui::MakeButton(this, step.button, step.caption);
+            OnClick(*made, [this, &step] { Step(step.to, step.copiesArea); });
+            row->addWidget(made);
+        }
+    }
+    auto* leave = ui::MakeButton(this, "cmdReturn", "Exit", "Back to the main panel");
+    OnClick(*leave, [this] { Context().panels.Unload(*this); });
+    row->addWidget(leave);
+    return row;
+}
+
+ConstructionPanel::CommandButton ConstructionPanel::WhereButton(std::string_view caption)
+{
+    return {"cmdWhere", caption, [this] { Outlet().Send("where"); }, "Asks the server where you stand"};
+}
+
+ConstructionPanel::CommandButton ConstructionPanel::RemoveButton(std::string_view name)
+{
+    return {name, "Remove Item", [this] { SendRemove(Outlet(), Generation()); },
+            "Removes the item picked in the client"};
+}
+
+ConstructionPanel::CommandButton ConstructionPanel::WipeButton(std::string_view caption)
+{
+    std::function<void()> open;
+    if (Context().panels.Has("frmWipe")) {
+        open = [this] { Context().panels.Show("frmWipe"); };
+    }
+    return {"Command1", caption, open, "Removes the items of a whole box"};
+}
+
+void ConstructionPanel::Load()
+{
+    tableForm_ = Generation();
+    if (traits_.sharesArea) {
+        const auto& shared = Context().sharedArea;
+        SetArea({shared.txtX1Main, shared.txtY1Main, shared.txtX2Main, shared.txtY2Main, shared.txtZMain});
+    }
+    ApplyStayOnTopRule();
+}
+
+void ConstructionPanel::Unload()
+{
+    if (traits_.sharesArea) {
+        const auto texts = Area();
+        Context().sharedArea = {texts.x1, texts.y1, texts.x2, texts.y2, texts.currentHeight};
+    }
+    ReturnToMainPanel();
+}
+
+QLineEdit* ConstructionPanel::FindBox(std::string_view name) const
+{
+    return findChild<QLineEdit*>(ui::Text(name));
+}
+
+AreaTexts ConstructionPanel::Area() const
+{
+    const auto text = [this](std::string_view name) {
+        const auto* box = FindBox(name);
+        return box == nullptr ? std::string() : ui::Utf8(box->text());
+    };
+    return {text("txtX1"), text("txtY1"), text("txtX2"), text("txtY2"), text(traits_.heightBox)};
+}
+
+void ConstructionPanel::SetArea(const AreaTexts& texts)
+{
+    const auto fill = [this](std::string_view name, const std::string& text) {
+        if (auto* box = FindBox(name)) {
+            box->setText(ui::Text(text));
+        }
+    };
+    fill("txtX1", texts.x1);
+    fill("txtX2", texts.x2);
+    fill("txtY1", texts.y1);
+    fill("txtY2", texts.y2);
+    fill(traits_.heightBox, texts.currentHeight);
+}
+
+std::vector<QLineEdit*> ConstructionPanel::AreaBoxes() const
+{
+    std::vector<QLineEdit*> boxes;
+    for (const std::string_view name : {"txtX1", "txtY1", "txtX2", "txtY2", "txtCustom"}) {
+        if (auto* box = FindBox(name)) {
+            boxes.push_back(box);
+        }
+    }
+    return boxes;
+}
+
+void ConstructionPanel::OpenBoxes()
+{
+    const auto open = [](QLineEdit& box) {
+        box.setEnabled(true);
+        ui::SetBackground(box, ui::BoxBackground::Info);
+        if (box.text() == QLatin1String(NotApplicable)) {
+            box.clear();
+        }
+    };
+    for (auto* box : AreaBoxes()) {
+        open(*box);
+    }
+    open(Box(traits_.heightBox));
+    if (storeys_ != nullptr) {
+        storeys_->SetEnabled(true);
+    }
+}
+
+void ConstructionPanel::CloseBoxes()
+{
+    const auto close = [](QLineEdit& box, const char* placeholder) {
+        box.setEnabled(false);
+        ui::SetBackground(box, ui::BoxBackground::ButtonFace);
+        if (box.text().isEmpty()) {
+            box.setText(QLatin1String(placeholder));
+        }
+    };
+    close(Box(traits_.heightBox), "0");
+    for (auto* box : AreaBoxes()) {
+        close(*box, NotApplicable);
+    }
+    if (storeys_ != nullptr) {
+        storeys_->SetEnabled(false);
+    }
+}
+
+void ConstructionPanel::ApplyStorey(int storey)
+{
+    auto& height = Box(traits_.heightBox);
+    if (height.text().isEmpty()) {
+        height.setText(ui::Text(core::ToText(Context().FetchLocation().z)));
+    }
+    RunTrapped(Outlet(), InvalidHeightText,
+               [&] { Box("txtCustom").setText(ui::Text(BuildHeight(storey, ui::Utf8(height.text())))); });
+}
+
+void ConstructionPanel::HeightChanged()
+{
+    const auto text = ui::Utf8(Box(traits_.heightBox).text());
+    const auto custom = BuildHeightAfterChange(text, storeys_->Selected(), traits_.loneMinus, Outlet());
+    if (custom) {
+        Box("txtCustom").setText(ui::Text(*custom));
+    }
+}
+
+void ConstructionPanel::ShowItemId(const std::string& idText)
+{
+    Box("txtItemID").setText(ui::Text(idText));
+}
+
+std::string ConstructionPanel::ItemId() const
+{
+    return ui::Utf8(Box("txtItemID").text());
+}
+
+std::string ConstructionPanel::CustomHeight() const
+{
+    return ui::Utf8(Box("txtCustom").text());
+}
+
+void ConstructionPanel::CopyItemId()
+{
+    Context().CopyToClipboard(ItemId());
+    Outlet().Show(core::PlainBox("Item ID copied to clipboard!"));
+}
+
+void ConstructionPanel::Step(std::string_view target, bool copiesArea)
+{
+    auto& next = Context().panels.Touch(target);
+    if (auto* neighbour = dynamic_cast<ConstructionPanel*>(&next); neighbour != nullptr && copiesArea) {
+        neighbour->SetArea(Area());
+    }
+    const auto place = pos();
+    hide();
+    Context().panels.Show(target);
+    next.move(place);
+}
+
+} // namespace qf::construction

@@ -1,0 +1,164 @@
+#include "construction/frmFloors.h"
+
+#include <QHBoxLayout>
+#include <QVBoxLayout>
+
+#include "ui/parts.h"
+
+namespace qf::construction {
+
+namespace {
+
+constexpr int FirstOfFloorsTwo = 19;
+
+constexpr ConstructionTraits traits{
+    .name = "frmFloors", .caption = "Floors", .spacedTitle = "F L O O R S", .loneMinus = LoneMinus::StillTyping};
+
+} // namespace
+
+frmFloors::frmFloors(ui::AppContext& context)
+    : ConstructionPanel(context, traits),
+      optFloorType(*this, "optFloorType"),
+      optRugs(*this, "optRugs"),
+      optCarpet(*this, "optCarpet"),
+      optDirection(*this, "optDirection"),
+      optAddMethod(*this, "optAddMethod"),
+      optHeightFloor(*this, "optHeightFloor")
+{
+    tabFloor = MakeTabs();
+    auto* direction = MakeOptionFrame("fraDirection", "Direction", optDirection, {"North/South", "East/West"});
+    auto* method = MakeOptionFrame("fraAddMethod", "Add method", optAddMethod, {"Point n Click", "Coordinates"});
+    useZCheck = new QCheckBox(QStringLiteral("Use Current Z"), method);
+    useZCheck->setObjectName(QStringLiteral("useZCheck"));
+    static_cast<QVBoxLayout*>(method->layout())->insertWidget(1, useZCheck);
+
+    auto* choices = new QVBoxLayout;
+    choices->addWidget(direction);
+    choices->addWidget(method);
+    choices->addStretch(1);
+    auto* upper = new QHBoxLayout;
+    upper->addLayout(choices, 1);
+    upper->addWidget(MakePreviewFrame());
+
+    auto* right = new QVBoxLayout;
+    right->addLayout(upper, 1);
+    right->addWidget(MakeCoordinateFrame());
+    right->addWidget(MakeHeightFrame(optHeightFloor));
+
+    auto* body = new QHBoxLayout;
+    body->addWidget(tabFloor, 1);
+    body->addLayout(right);
+
+    const CommandButton buttons[] = {
+        {"cmdAddFloor", "Add", [this] { AddFloor(State(), Generation(), Outlet()); }, "Lays the chosen floor"},
+        WhereButton("Where am I?"),
+        RemoveButton("cmdRemove"),
+        WipeButton("Wipe"),
+    };
+    Compose(body, MakeBottomRow(buttons));
+
+    optFloorType.onSelect = [this](int) { Guard([this] { TypeChosen(); }); };
+    optRugs.onSelect = [this](int) { Guard([this] { RugOrCarpetChosen(); }); };
+    optCarpet.onSelect = [this](int) { Guard([this] { RugOrCarpetChosen(); }); };
+    optAddMethod.onSelect = [this](int method) { Guard([this, method] { MethodChosen(method); }); };
+    connect(useZCheck, &QCheckBox::toggled, this, [this] { Guard([this] { UseZChanged(); }); });
+}
+
+QTabWidget* frmFloors::MakeTabs()
+{
+    auto* tabs = new QTabWidget(this);
+    tabs->setObjectName(QStringLiteral("tabFloor"));
+    const auto floors = FloorRows();
+    const int  count = static_cast<int>(floors.size());
+    tabFloor = tabs;
+    tabs->addTab(MakePage(floors, 0, FirstOfFloorsTwo, optFloorType, "cmdFloors", 2), QStringLiteral("Floors I"));
+    tabs->addTab(MakePage(floors, FirstOfFloorsTwo, count - FirstOfFloorsTwo, optFloorType, "cmdFloors2", 1),
+                 QStringLiteral("Floors II"));
+    tabs->addTab(MakePage(RugRows(), 0, static_cast<int>(RugRows().size()), optRugs, "cmdRugs", 1),
+                 QStringLiteral("Rugs"));
+    tabs->addTab(MakePage(CarpetRows(), 0, static_cast<int>(CarpetRows().size()), optCarpet, "cmdCarpets", 1),
+                 QStringLiteral("Carpets"));
+    return tabs;
+}
+
+QWidget* frmFloors::MakePage(std::span<const FloorRow> rows, int first, int count, ui::OptionArray& options,
+                             std::string_view pieceButtons, int columns)
+{
+    auto*     page = new QWidget(tabFloor);
+    auto*     layout = new QGridLayout(page);
+    const int perLine = (count + columns - 1) / columns;
+    layout->setVerticalSpacing(2);
+    for (int place = 0; place < count; ++place) {
+        const int   index = first + place;
+        const auto& row = rows[static_cast<std::size_t>(index)];
+        const int   column = place / perLine * 3;
+        auto*       piece = ui::MakeAddButton(page, ui::MemberName(pieceButtons, index), row.caption);
+        OnClick(*piece, [this, tab = static_cast<int>(row.tab), index] {
+            AddFloorPiece(State(), tab, index, Generation(), Outlet());
+        });
+        layout->addWidget(&options.Add(index, row.caption, page), place % perLine, column);
+        layout->addWidget(piece, place % perLine, column + 1);
+    }
+    for (int column = 0; column < columns; ++column) {
+        layout->setColumnStretch(column * 3 + 2, 1);
+    }
+    layout->setRowStretch(perLine, 1);
+    return page;
+}
+
+FloorsState frmFloors::State() const
+{
+    return {.tab = tabFloor->currentIndex(),
+            .floorType = optFloorType.Selected(),
+            .rug = optRugs.Selected(),
+            .carpet = optCarpet.Selected(),
+            .direction = optDirection.Selected(),
+            .addMethod = optAddMethod.Selected(),
+            .useZ = useZCheck->isChecked(),
+            .itemId = ItemId(),
+            .area = Area(),
+            .custom = CustomHeight(),
+            .tableForm = TableForm()};
+}
+
+void frmFloors::TypeChosen()
+{
+    if (optDirection.Selected() < 0) {
+        optDirection.Select(NorthSouth);
+    }
+    ShowChosenTile();
+}
+
+void frmFloors::RugOrCarpetChosen()
+{
+    if (optDirection.Selected() < 0) {
+        Outlet().Show(core::InformationBox("Please select a direction first"));
+        return;
+    }
+    ShowChosenTile();
+}
+
+void frmFloors::ShowChosenTile()
+{
+    const auto state = State();
+    ShowItemId(FloorTileId(state.tab, state.direction, state.SelectedType(), state.tableForm));
+}
+
+void frmFloors::MethodChosen(int method)
+{
+    useZCheck->setEnabled(method == FloorPointAndClick);
+    if (method == FloorPointAndClick) {
+        CloseBoxes();
+    } else {
+        OpenBoxes();
+    }
+}
+
+void frmFloors::UseZChanged()
+{
+    auto& height = Box("txtCurrentHeight");
+    height.setEnabled(useZCheck->isChecked());
+    ui::SetBackground(height, useZCheck->isChecked() ? ui::BoxBackground::Info : ui::BoxBackground::ButtonFace);
+}
+
+} // namespace qf::construction

@@ -1,0 +1,66 @@
+#include "ui/app_context.h"
+
+#include "client/delivery.h"
+#include "core/number_rules.h"
+
+namespace qf::ui {
+
+namespace {
+
+/// The outlet of the running program: commands are typed into the client, boxes are shown to the user.
+/// After the process has ended nothing leaves it any more, however deep the handler that is unwinding.
+class ProgramOutlet final : public core::Outlet {
+  public:
+    explicit ProgramOutlet(AppContext& context) : context_(context) {}
+
+    void Send(std::string_view command, bool usePrefix) override
+    {
+        if (!context_.environment.process.HasEnded()) {
+            client::SendCommand(context_.environment.platform, *this, context_.settings.CommandPrefix, command,
+                                usePrefix);
+        }
+    }
+
+    void Show(const core::Message& message) override
+    {
+        if (!context_.environment.process.HasEnded()) {
+            context_.environment.boxes.Show(message);
+        }
+    }
+
+    bool Ask(const core::Message& message) override
+    {
+        return !context_.environment.process.HasEnded() && context_.environment.boxes.Ask(message);
+    }
+
+  private:
+    AppContext& context_;
+};
+
+} // namespace
+
+AppContext::AppContext(Environment& environmentOfRun, std::span<const PanelEntry> panelList)
+    : environment(environmentOfRun), panels(*this, panelList), outlet_(std::make_unique<ProgramOutlet>(*this))
+{}
+
+AppContext::~AppContext() = default;
+
+const client::PlayerLocation& AppContext::FetchLocation()
+{
+    const auto calibration = core::ToInteger32(environment.store.Read(core::section::Configuration, "Calibration"));
+    locationResult = client::GetPlayerLocation(environment.platform, calibration, settings.UsingClassicUO);
+    return locationResult;
+}
+
+void AppContext::ShowCalibrationNag()
+{
+    Outlet().Show(core::PlainBox("You need to properly calibrate QF to your current ingame location for this to work. "
+                                 "Check the configuration menu."));
+}
+
+bool AppContext::StayOnTopWanted()
+{
+    return settings.StayOnTop;
+}
+
+} // namespace qf::ui

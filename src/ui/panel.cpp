@@ -1,0 +1,222 @@
+#include "ui/panel.h"
+
+#include <QAbstractButton>
+#include <QCloseEvent>
+#include <QMouseEvent>
+#include <utility>
+
+#include "core/number_rules.h"
+#include "ui/parts.h"
+
+namespace qf::ui {
+
+namespace {
+
+constexpr int TwipsPerPixel = 15;
+
+int ToPixels(int twips)
+{
+    return qRound(static_cast<double>(twips) / TwipsPerPixel);
+}
+
+} // namespace
+
+Panel::Panel(AppContext& context, std::string_view name) : context_(context), name_(name)
+{
+    setObjectName(QString::fromUtf8(name.data(), static_cast<qsizetype>(name.size())));
+}
+
+Panel::~Panel() = default;
+
+void Panel::SetStayOnTop(bool onTop)
+{
+    if (topmost_ == onTop) {
+        return;
+    }
+    topmost_ = onTop;
+    const bool wasShown = isVisible();
+    const auto place = pos();
+    setWindowFlag(Qt::WindowStaysOnTopHint, onTop);
+    if (wasShown) {
+        move(place);
+        show();
+    }
+}
+
+int Panel::LeftTwips() const
+{
+    return pos().x() * TwipsPerPixel;
+}
+
+int Panel::TopTwips() const
+{
+    return pos().y() * TwipsPerPixel;
+}
+
+void Panel::MoveToTwips(int left, int top)
+{
+    move(ToPixels(left), ToPixels(top));
+}
+
+bool Panel::Invoke(const Handlers& handlers, QWidget& control)
+{
+    const auto found = handlers.find(&control);
+    if (found == handlers.end()) {
+        return false;
+    }
+    // A copy, since the handler may unload this panel.
+    const auto handler = found->second;
+    Guard(handler);
+    return true;
+}
+
+bool Panel::InvokeClick(QWidget& control)
+{
+    return Invoke(click_, control);
+}
+
+bool Panel::InvokeDoubleClick(QWidget& control)
+{
+    return Invoke(doubleClick_, control);
+}
+
+bool Panel::InvokePress(QWidget& control)
+{
+    return Invoke(press_, control);
+}
+
+void Panel::RunAfterModal()
+{
+    if (auto afterwards = std::exchange(afterModal_, {})) {
+        Guard(afterwards);
+    }
+}
+
+void Panel::ApplyStayOnTopRule()
+{
+    if (context_.StayOnTopWanted()) {
+        SetStayOnTop(true);
+    }
+}
+
+void Panel::ReturnToMainPanel()
+{
+    if (context_.panels.Has("frmMain")) {
+        context_.panels.Show("frmMain");
+    }
+}
+
+void Panel::OnClick(QWidget& control, std::function<void()> handler)
+{
+    click_[&control] = std::move(handler);
+    if (auto* button = qobject_cast<QAbstractButton*>(&control)) {
+        connect(button, &QAbstractButton::clicked, this, [this, button] { InvokeClick(*button); });
+    } else {
+        control.installEventFilter(this);
+    }
+}
+
+void Panel::OnDoubleClick(QWidget& control, std::function<void()> handler)
+{
+    doubleClick_[&control] = std::move(handler);
+    control.installEventFilter(this);
+}
+
+void Panel::OnPress(QWidget& control, std::function<void()> handler)
+{
+    press_[&control] = std::move(handler);
+    control.installEventFilter(this);
+}
+
+void Panel::OnChange(QLineEdit& box, std::function<void()> handler)
+{
+    connect(&box, &QLineEdit::textChanged, this, [this, handler = std::move(handler)] { Guard(handler); });
+}
+
+void Panel::OnFocus(QWidget& control, std::function<void()> handler)
+{
+    focus_[&control] = std::move(handler);
+    control.installEventFilter(this);
+}
+
+void Panel::AddPositionControl(const PositionRow& row)
+{
+    auto* control = findChild<QWidget*>(Text(row.control));
+    OnClick(*control, [this, row] {
+        const auto place = context_.FetchLocation();
+        const auto fill = [this](std::string_view box, std::int32_t number) {
+            if (!box.empty()) {
+                Box(box).setText(Text(core::ToText(number)));
+            }
+        };
+        fill(row.boxX, place.x);
+        fill(row.boxY, place.y);
+        fill(row.boxZ, place.z);
+        if (!row.tested.empty() && Box(row.tested).text() == QLatin1String("-1")) {
+            context_.ShowCalibrationNag();
+        }
+    });
+}
+
+QLineEdit& Panel::Box(std::string_view name) const
+{
+    return *findChild<QLineEdit*>(Text(name));
+}
+
+void Panel::Guard(const std::function<void()>& handler)
+{
+    context_.environment.process.Run(handler);
+}
+
+void Panel::closeEvent(QCloseEvent* event)
+{
+    if (!HasCloseEntry()) {
+        event->ignore();
+        return;
+    }
+    event->accept();
+    Guard([this] { context_.panels.Unload(*this); });
+}
+
+void Panel::hideEvent(QHideEvent* event)
+{
+    QWidget::hideEvent(event);
+    if (!event->spontaneous() && isModal()) {
+        setWindowModality(Qt::NonModal);
+        RunAfterModal();
+    }
+}
+
+bool Panel::eventFilter(QObject* object, QEvent* event)
+{
+    auto* control = qobject_cast<QWidget*>(object);
+    if (control == nullptr || !control->isEnabled()) {
+        return QWidget::eventFilter(object, event);
+    }
+    switch (event->type()) {
+    case QEvent::MouseButtonPress:
+        if (static_cast<QMouseEvent*>(event)->button() == Qt::LeftButton) {
+            InvokePress(*control);
+            // A label passes a press on to what lies below it, which would then get the release as well.
+            return click_.contains(control) && !control->focusPolicy();
+        }
+        break;
+    case QEvent::MouseButtonRelease: {
+        const auto* mouse = static_cast<QMouseEvent*>(event);
+        if (mouse->button() == Qt::LeftButton && control->rect().contains(mouse->position().toPoint())) {
+            return InvokeClick(*control) && !control->focusPolicy();
+        }
+        break;
+    }
+    case QEvent::MouseButtonDblClick:
+        if (static_cast<QMouseEvent*>(event)->button() == Qt::LeftButton && InvokeDoubleClick(*control)) {
+            return true;
+        }
+        break;
+    case QEvent::FocusIn: Invoke(focus_, *control); break;
+    default: break;
+    }
+    return QWidget::eventFilter(object, event);
+}
+
+} // namespace qf::ui

@@ -1,0 +1,102 @@
+#pragma once
+
+#include <QLineEdit>
+#include <QWidget>
+#include <functional>
+#include <map>
+#include <string>
+#include <string_view>
+
+#include "ui/app_context.h"
+#include "ui/position_row.h"
+
+namespace qf::ui {
+
+/// A window of the program. It carries what all panels share: load and unload, the stay-on-top rule, the
+/// return to the main panel, the boundary at which a handler's run-time error is caught.
+///
+/// A handler is attached with one of the `On...` functions, never with a bare connection, so that it runs
+/// inside that boundary and can also be run by name.
+class Panel : public QWidget {
+  public:
+    Panel(AppContext& context, std::string_view name);
+    ~Panel() override;
+
+    std::string_view Name() const { return name_; }
+
+    /// The load handler; runs once, before the panel is shown for the first time.
+    virtual void Load() {}
+
+    /// The unload handler; runs once, before the panel is destroyed.
+    virtual void Unload() {}
+
+    /// Whether the window frame's Close entry is there.
+    virtual bool HasCloseEntry() const { return true; }
+
+    /// Puts the panel above the windows of other programs (true) or among them, keeping size and place.
+    void SetStayOnTop(bool onTop);
+    bool IsTopmost() const { return topmost_; }
+
+    /// Left and top of the window's frame in twips (15 a pixel), and setting them.
+    int  LeftTwips() const;
+    int  TopTwips() const;
+    void MoveToTwips(int left, int top);
+
+    /// Runs the click handler of a control as a user's click would, whatever state the control is in.
+    /// False where the control has none.
+    bool InvokeClick(QWidget& control);
+    bool InvokeDoubleClick(QWidget& control);
+    bool InvokePress(QWidget& control);
+
+    /// What runs once when a modal panel is left.
+    void SetAfterModal(std::function<void()> afterwards) { afterModal_ = std::move(afterwards); }
+    void RunAfterModal();
+
+  protected:
+    AppContext&   Context() { return context_; }
+    core::Outlet& Outlet() { return context_.Outlet(); }
+
+    /// Puts the panel on top where "Stay On Top" is ticked.
+    void ApplyStayOnTopRule();
+
+    /// Hides or unloads this panel and shows the main panel.
+    void ReturnToMainPanel();
+
+    void OnClick(QWidget& control, std::function<void()> handler);
+    void OnDoubleClick(QWidget& control, std::function<void()> handler);
+    void OnPress(QWidget& control, std::function<void()> handler);
+
+    /// Runs at every change of the box's text, by the user or by code.
+    void OnChange(QLineEdit& box, std::function<void()> handler);
+
+    /// Runs whenever the control gets the keyboard focus.
+    void OnFocus(QWidget& control, std::function<void()> handler);
+
+    /// Makes a control fill boxes from the player's place; the controls named by the row are there already.
+    void AddPositionControl(const PositionRow& row);
+
+    void Guard(const std::function<void()>& handler);
+
+    /// The text box of this name.
+    QLineEdit& Box(std::string_view name) const;
+
+    void closeEvent(QCloseEvent* event) override;
+    void hideEvent(QHideEvent* event) override;
+    bool eventFilter(QObject* object, QEvent* event) override;
+
+  private:
+    using Handlers = std::map<const QWidget*, std::function<void()>>;
+
+    bool Invoke(const Handlers& handlers, QWidget& control);
+
+    AppContext&           context_;
+    std::string           name_;
+    bool                  topmost_ = false;
+    Handlers              click_;
+    Handlers              doubleClick_;
+    Handlers              press_;
+    Handlers              focus_;
+    std::function<void()> afterModal_;
+};
+
+} // namespace qf::ui

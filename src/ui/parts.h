@@ -1,0 +1,44 @@
+#pragma once
+
+#include <QGroupBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QToolButton>
+#include <string>
+#include <string_view>
+
+namespace qf::ui {
+
+/// UTF-8 text of the core as Qt's, and back.
+QString     Text(std::string_view utf8);
+std::string Utf8(const QString& text);
+
+/// A push button with its documented name and caption.
+QPushButton* MakeButton(QWidget* parent, std::string_view name, std::string_view caption,
+                        std::string_view toolTip = {});
+
+/// A small button that stands beside an option and adds one piece of it.
+QToolButton* MakeAddButton(QWidget* parent, const QString& name, std::string_view what);
+
+/// A text box wide enough for this many digits.
+QLineEdit* MakeTextBox(QWidget* parent, std::string_view name, int digits);
+
+/// A label; one without a name is decoration.
+QLabel* MakeLabel(QWidget* parent, std::string_view name, std::string_view caption);
+
+/// A label whose access key and click lead to a box.
+QLabel* MakeLabelFor(QWidget* buddy, std::string_view name, std::string_view caption);
+
+/// A framed group with its caption.
+QGroupBox* MakeFrame(QWidget* parent, std::string_view name, std::string_view caption);
+
+/// The large title of a panel, centred.
+QLabel* MakeTitle(QWidget* parent, std::string_view name, std::string_view caption);
+
+/// The two backgrounds that tell a box in use from one that waits: the system's info background and its
+/// button face.
+enum class BoxBackground { Info, ButtonFace };
+void SetBackground(QLineEdit& box, BoxBackground background);
+
+} // namespace qf::ui

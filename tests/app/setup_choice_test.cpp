@@ -1,0 +1,90 @@
+#include "app/setup/setup_choice.h"
+
+#include <gtest/gtest.h>
+
+#include "memory_store.h"
+
+namespace qf::app {
+namespace {
+
+TEST(SetupChoice, TextsOfTheGenerations)
+{
+    EXPECT_EQ(TextsOf({0, "\\"}), (SetupTexts{"0", "\\"}));
+    EXPECT_EQ(TextsOf({1, "\\"}), (SetupTexts{"1", "\\"}));
+}
+
+TEST(SetupChoice, FolderGetsTheProgramsFormAndABackslash)
+{
+    EXPECT_EQ(TextsOf({1, "/games/Ultima Online"}).uoPath, "\\games\\Ultima Online\\");
+    EXPECT_EQ(TextsOf({1, "/games/Ultima Online/"}).uoPath, "\\games\\Ultima Online\\");
+    EXPECT_EQ(TextsOf({1, "C:\\Games"}).uoPath, "C:\\Games\\");
+    EXPECT_EQ(TextsOf({1, "C:\\Games\\"}).uoPath, "C:\\Games\\");
+    EXPECT_EQ(TextsOf({1, "/"}).uoPath, "\\");
+    EXPECT_EQ(TextsOf({1, ""}).uoPath, "\\");
+    EXPECT_EQ(TextsOf({1, "/sp\xC3\xA4te Spiele"}).uoPath, "\\sp\xC3\xA4te Spiele\\");
+}
+
+TEST(SetupChoice, SavingWritesTheTwoKeysAndNothingElse)
+{
+    MemoryStore store;
+    SaveChoice(store, {0, "/games/uo"});
+    EXPECT_EQ(store.log, (std::vector<std::string>{"Configuration UOPath=\\games\\uo\\", "Configuration ZarnVer=0"}));
+}
+
+TEST(SetupChoice, WhereAWriteFailsSetupStaysNeeded)
+{
+    MemoryStore store;
+    store.failsAt = 1;
+    EXPECT_THROW(SaveChoice(store, {1, "/games/uo"}), core::RuntimeError);
+    EXPECT_TRUE(IsSetupNeeded(store));
+    store.failsAt = 0;
+    SaveChoice(store, {1, "/games/uo"});
+    EXPECT_FALSE(IsSetupNeeded(store));
+}
+
+TEST(SetupChoice, NeededUntilThereIsAGenerationThatTheProgramReads)
+{
+    MemoryStore store;
+    EXPECT_TRUE(IsSetupNeeded(store));
+    EXPECT_TRUE(store.log.empty());
+    for (const auto* text : {"0", "1", "7", " 1 "}) {
+        store.Write("Configuration", "ZarnVer", text);
+        EXPECT_FALSE(IsSetupNeeded(store)) << text;
+    }
+    for (const auto* text : {"", "x", "99999"}) {
+        store.Write("Configuration", "ZarnVer", text);
+        EXPECT_TRUE(IsSetupNeeded(store)) << text;
+    }
+}
+
+TEST(SetupChoice, InitialChoiceIsWhatIsStored)
+{
+    MemoryStore store;
+    EXPECT_EQ(InitialChoice(store).generation, 1);
+    store.Write("Configuration", "ZarnVer", "7");
+    EXPECT_EQ(InitialChoice(store).generation, 1);
+    store.Write("Configuration", "ZarnVer", "0");
+    EXPECT_EQ(InitialChoice(store).generation, 0);
+    SaveChoice(store, {1, "/no such folder/uo"});
+    const auto again = InitialChoice(store);
+    EXPECT_EQ(again.generation, 1);
+    EXPECT_EQ(TextsOf(again).uoPath, "\\no such folder\\uo\\");
+}
+
+#ifndef _WIN32
+TEST(SetupChoice, WithoutAStoredFolderTheBoxIsEmpty)
+{
+    MemoryStore store;
+    EXPECT_EQ(InitialChoice(store).clientFolder, "");
+}
+
+TEST(SetupChoice, TheFolderIsShownInTheSystemsForm)
+{
+    MemoryStore store;
+    store.Write("Configuration", "UOPath", "\\no such folder\\uo\\");
+    EXPECT_EQ(InitialChoice(store).clientFolder, "/no such folder/uo/");
+}
+#endif
+
+} // namespace
+} // namespace qf::app

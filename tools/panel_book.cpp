@@ -1,0 +1,153 @@
+// Pictures of every panel of the program, and where the controls lie on it: `quernfield-panels`. It walks
+// the program's own list of panels, so that a new panel is in the book as soon as it is in the list.
+
+#include <QApplication>
+#include <QCheckBox>
+#include <QDir>
+#include <QRadioButton>
+#include <QTabWidget>
+#include <QTemporaryDir>
+#include <algorithm>
+#include <cstdio>
+#include <fstream>
+#include <iostream>
+#include <map>
+#include <string>
+#include <vector>
+
+#include "app/application.h"
+#include "client/platform/simulated/simulated_platform.h"
+#include "core/host_path.h"
+#include "support/quiet_services.h"
+#include "ui/panel.h"
+#include "ui/parts.h"
+#include "world/database.h"
+
+namespace {
+
+using namespace qf;
+
+/// What is chosen and typed on a panel before its picture is taken: "control" or "control=text" by panel.
+using Poses = std::map<std::string, std::vector<std::string>>;
+
+Poses ReadPoses(const std::string& file)
+{
+    Poses         poses;
+    std::ifstream stream(file);
+    std::string   line;
+    while (std::getline(stream, line)) {
+        const auto blank = line.find(' ');
+        if (blank != std::string::npos && line.front() != '#') {
+            poses[line.substr(0, blank)].push_back(line.substr(blank + 1));
+        }
+    }
+    return poses;
+}
+
+bool Strike(ui::Panel& panel, const std::string& pose)
+{
+    const auto equals = pose.find('=');
+    auto*      control = panel.findChild<QWidget*>(ui::Text(pose.substr(0, equals)));
+    if (auto* box = qobject_cast<QLineEdit*>(control)) {
+        box->setText(ui::Text(equals == std::string::npos ? "" : pose.substr(equals + 1)));
+    } else if (auto* tabs = qobject_cast<QTabWidget*>(control)) {
+        tabs->setCurrentIndex(std::atoi(pose.c_str() + equals + 1));
+    } else if (auto* button = qobject_cast<QAbstractButton*>(control); button != nullptr && button->isCheckable()) {
+        button->setChecked(true);
+    } else {
+        return control != nullptr && panel.InvokeClick(*control);
+    }
+    return true;
+}
+
+void WriteControls(std::ofstream& out, const ui::Panel& panel)
+{
+    for (const auto* control : panel.findChildren<QWidget*>()) {
+        const auto name = control->objectName();
+        if (name.isEmpty() || name.startsWith(QLatin1String("qt_")) || !control->isVisibleTo(&panel)) {
+            continue;
+        }
+        const auto place = control->mapTo(&panel, QPoint(0, 0));
+        out << panel.Name() << '\t' << ui::Utf8(name) << '\t' << place.x() << '\t' << place.y() << '\t'
+            << control->width() << '\t' << control->height() << '\n';
+    }
+}
+
+int Usage()
+{
+    std::cerr << "quernfield-panels [--poses FILE] [--screenshots FOLDER] [--controls FILE]\n";
+    return 2;
+}
+
+} // namespace
+
+int main(int argumentCount, char** arguments)
+{
+    if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")) {
+        qputenv("QT_QPA_PLATFORM", "offscreen");
+    }
+    QApplication application(argumentCount, arguments);
+    QApplication::setQuitOnLastWindowClosed(false);
+
+    std::map<std::string, std::string> options;
+    const auto                         words = QApplication::arguments();
+    for (qsizetype index = 1; index < words.size(); index += 2) {
+        if (index + 1 == words.size() || !words[index].startsWith(QLatin1String("--"))) {
+            return Usage();
+        }
+        options[ui::Utf8(words[index])] = ui::Utf8(words[index + 1]);
+    }
+
+    const QTemporaryDir scratch;
+    const auto          folder = std::filesystem::path(ui::Utf8(scratch.path()));
+    world::CreateWorldDatabase(folder / "qf.mdb");
+
+    test::MemoryStore store;
+    store.Write(core::section::Configuration, "ZarnVer", "1");
+    store.Write(core::section::Configuration, "UOPath", "\\nowhere\\");
+    client::SimulatedPlatform desktop;
+    desktop.SetForeground(desktop.AddWindow("SDL_app", "ClassicUO"));
+
+    test::QuietServices          services;
+    core::PseudoUniformGenerator uniform;
+    ui::Environment              environment{store,    desktop,  services, services, services,
+                                services, services, services, uniform,  core::ProgramPath(folder)};
+
+    app::Application run(environment);
+    if (!run.Main()) {
+        return 1;
+    }
+
+    const auto    poses = ReadPoses(options["--poses"]);
+    const auto    target = ui::Text(options["--screenshots"]);
+    std::ofstream controls;
+    if (options.contains("--controls")) {
+        controls.open(options["--controls"]);
+    }
+    bool complete = true;
+    for (const auto& entry : app::AllPanels()) {
+        auto& panel = run.Context().panels.Show(entry.name);
+        if (const auto found = poses.find(std::string(entry.name)); found != poses.end()) {
+            for (const auto& pose : found->second) {
+                if (!Strike(panel, pose)) {
+                    std::cerr << entry.name << ": no control for " << pose << '\n';
+                    complete = false;
+                }
+            }
+        }
+        QApplication::processEvents();
+        if (!target.isEmpty()) {
+            QDir().mkpath(target);
+            complete =
+                panel.grab().save(target + QLatin1Char('/') + ui::Text(entry.name) + QLatin1String(".png")) && complete;
+        }
+        if (controls.is_open()) {
+            WriteControls(controls, panel);
+        }
+        panel.hide();
+    }
+    for (const auto& box : services.boxes) {
+        std::cerr << box << '\n';
+    }
+    return complete && services.boxes.empty() ? 0 : 1;
+}
