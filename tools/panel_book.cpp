@@ -18,6 +18,7 @@
 #include "app/application.h"
 #include "client/platform/simulated/simulated_platform.h"
 #include "core/host_path.h"
+#include "support/memory_store.h"
 #include "support/quiet_services.h"
 #include "ui/panel.h"
 #include "ui/parts.h"

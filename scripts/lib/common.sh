@@ -4,7 +4,7 @@
 packages_build=(g++ cmake ninja-build ccache pkg-config qt6-base-dev libsdl2-dev libsqlite3-dev libxcb1-dev libxcb-xkb-dev)
 packages_show=(xvfb xauth openbox xdotool imagemagick fonts-dejavu-core)
 packages_test=(libgtest-dev libgmock-dev googletest x11-xkb-utils x11-xserver-utils)
-packages_windows=(g++-mingw-w64-x86-64-posix wine wine64)
+packages_windows=(g++-mingw-w64-x86-64-posix wine wine64 dpkg-dev make gcc tcl)
 
 # Run apt-get with the rights that it needs.
 as_root() {

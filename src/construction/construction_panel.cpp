@@ -16,7 +16,22 @@ constexpr int CoordinateDigits = 6;
 
 constexpr auto NotApplicable = "N/A";
 
+/// The boxes and the button of one corner.
+struct Corner {
+    std::string_view boxX;
+    std::string_view boxY;
+    std::string_view button;
+    std::string_view caption;
+    std::string_view labelX;
+    std::string_view labelY;
+};
+
 // clang-format off
+constexpr std::array corners{
+    Corner{"txtX1", "txtY1", "cmdwhere1", "X1 Y1", "X1", "Y1"},
+    Corner{"txtX2", "txtY2", "cmdwhere2", "X2 Y2", "X2", "Y2"},
+};
+
 constexpr std::array positionRows{
     //              control      X        Y        Z                   tested
     ui::PositionRow{"cmdwhere1", "txtX1", "txtY1", "",                 "txtX1"},
@@ -44,17 +59,17 @@ QGroupBox* ConstructionPanel::MakeCoordinateFrame()
 {
     auto* frame = ui::MakeFrame(this, "fraCoordinates", "Coordinates");
     auto* layout = new QGridLayout(frame);
-    for (const int corner : {1, 2}) {
-        const auto number = std::to_string(corner);
-        auto*      x = ui::MakeTextBox(frame, "txtX" + number, CoordinateDigits);
-        auto*      y = ui::MakeTextBox(frame, "txtY" + number, CoordinateDigits);
-        auto*      where =
-            ui::MakeButton(frame, "cmdwhere" + number, "X" + number + " Y" + number, "Takes the place where you stand");
-        layout->addWidget(ui::MakeLabelFor(x, "", "X" + number), corner - 1, 0);
-        layout->addWidget(x, corner - 1, 1);
-        layout->addWidget(ui::MakeLabelFor(y, "", "Y" + number), corner - 1, 2);
-        layout->addWidget(y, corner - 1, 3);
-        layout->addWidget(where, corner - 1, 4);
+    int   line = 0;
+    for (const auto& corner : corners) {
+        auto* x = ui::MakeTextBox(frame, corner.boxX, CoordinateDigits);
+        auto* y = ui::MakeTextBox(frame, corner.boxY, CoordinateDigits);
+        auto* where = ui::MakeButton(frame, corner.button, corner.caption, "Takes the place where you stand");
+        layout->addWidget(ui::MakeLabelFor(x, "", corner.labelX), line, 0);
+        layout->addWidget(x, line, 1);
+        layout->addWidget(ui::MakeLabelFor(y, "", corner.labelY), line, 2);
+        layout->addWidget(y, line, 3);
+        layout->addWidget(where, line, 4);
+        ++line;
     }
     for (const auto& row : positionRows) {
         AddPositionControl(row);

@@ -45,6 +45,7 @@ class Panel : public QWidget {
     /// Runs the click handler of a control as a user's click would, whatever state the control is in.
     /// False where the control has none.
     bool InvokeClick(QWidget& control);
+    bool HandlesClick(const QWidget& control) const { return click_.contains(&control); }
     bool InvokeDoubleClick(QWidget& control);
     bool InvokePress(QWidget& control);
 

@@ -140,6 +140,9 @@ void Database::Command(const char* sql)
 
 Database::Statement Database::Prepare(std::string_view sql)
 {
+    if (sql.size() > LongestStatement) {
+        Require(SQLITE_TOOBIG);
+    }
     sqlite3_stmt* raw = nullptr;
     const char*   tail = nullptr;
     const int     code = sqlite3_prepare_v2(connection_.get(), sql.data(), static_cast<int>(sql.size()), &raw, &tail);

@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-#include "memory_store.h"
+#include "support/memory_store.h"
 
 namespace qf::app {
 namespace {
@@ -26,14 +26,14 @@ TEST(SetupChoice, FolderGetsTheProgramsFormAndABackslash)
 
 TEST(SetupChoice, SavingWritesTheTwoKeysAndNothingElse)
 {
-    MemoryStore store;
+    test::MemoryStore store;
     SaveChoice(store, {0, "/games/uo"});
     EXPECT_EQ(store.log, (std::vector<std::string>{"Configuration UOPath=\\games\\uo\\", "Configuration ZarnVer=0"}));
 }
 
 TEST(SetupChoice, WhereAWriteFailsSetupStaysNeeded)
 {
-    MemoryStore store;
+    test::MemoryStore store;
     store.failsAt = 1;
     EXPECT_THROW(SaveChoice(store, {1, "/games/uo"}), core::RuntimeError);
     EXPECT_TRUE(IsSetupNeeded(store));
@@ -44,7 +44,7 @@ TEST(SetupChoice, WhereAWriteFailsSetupStaysNeeded)
 
 TEST(SetupChoice, NeededUntilThereIsAGenerationThatTheProgramReads)
 {
-    MemoryStore store;
+    test::MemoryStore store;
     EXPECT_TRUE(IsSetupNeeded(store));
     EXPECT_TRUE(store.log.empty());
     for (const auto* text : {"0", "1", "7", " 1 "}) {
@@ -59,7 +59,7 @@ TEST(SetupChoice, NeededUntilThereIsAGenerationThatTheProgramReads)
 
 TEST(SetupChoice, InitialChoiceIsWhatIsStored)
 {
-    MemoryStore store;
+    test::MemoryStore store;
     EXPECT_EQ(InitialChoice(store).generation, 1);
     store.Write("Configuration", "ZarnVer", "7");
     EXPECT_EQ(InitialChoice(store).generation, 1);
@@ -74,13 +74,13 @@ TEST(SetupChoice, InitialChoiceIsWhatIsStored)
 #ifndef _WIN32
 TEST(SetupChoice, WithoutAStoredFolderTheBoxIsEmpty)
 {
-    MemoryStore store;
+    test::MemoryStore store;
     EXPECT_EQ(InitialChoice(store).clientFolder, "");
 }
 
 TEST(SetupChoice, TheFolderIsShownInTheSystemsForm)
 {
-    MemoryStore store;
+    test::MemoryStore store;
     store.Write("Configuration", "UOPath", "\\no such folder\\uo\\");
     EXPECT_EQ(InitialChoice(store).clientFolder, "/no such folder/uo/");
 }

@@ -11,7 +11,7 @@
 #include <memory>
 #include <stdexcept>
 
-#include "memory_store.h"
+#include "support/memory_store.h"
 
 namespace qf::app {
 namespace {
@@ -40,7 +40,7 @@ class SetupDialogTest : public testing::Test {
 
     static inline std::unique_ptr<QApplication> application;
 
-    MemoryStore store;
+    test::MemoryStore store;
 };
 
 TEST_F(SetupDialogTest, StartsWithTheNewerGenerationAndSaves)

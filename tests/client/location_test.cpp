@@ -37,7 +37,7 @@ class LocationTest : public testing::Test {
         platform_.SetAnswer(window, message::AssistPosition, answer);
     }
 
-    long Count(Kind kind) const
+    std::ptrdiff_t Count(Kind kind) const
     {
         return std::count_if(platform_.Log().begin(), platform_.Log().end(),
                              [kind](const PlatformCall& call) { return call.kind == kind; });

@@ -11,6 +11,7 @@
 #include "construction/floors.h"
 #include "core/host_path.h"
 #include "desktop/x11_session.h"
+#include "support/memory_store.h"
 #include "support/quiet_services.h"
 #include "support/recording_outlet.h"
 #include "ui/option_array.h"

@@ -78,8 +78,7 @@ class X11Desktops : public testing::TestWithParam<bool> {
         }
         test::HoldDisplay();
         if (GetParam()) {
-            manager_ = std::make_unique<test::ChildProcess>(std::vector<std::string>{"openbox"});
-            ASSERT_TRUE(test::Eventually(test::WindowManagerRuns));
+            manager_ = std::make_unique<test::WindowManager>();
         }
         platform_ = std::make_unique<X11Platform>();
     }
@@ -96,11 +95,14 @@ class X11Desktops : public testing::TestWithParam<bool> {
 
     bool WaitForWindows(std::size_t count)
     {
-        return test::Eventually([&] { return Windows().size() == count; });
+        return test::Eventually([&] {
+            test::NudgeWindowManager();
+            return Windows().size() == count;
+        });
     }
 
-    std::unique_ptr<test::ChildProcess> manager_;
-    std::unique_ptr<X11Platform>        platform_;
+    std::unique_ptr<test::WindowManager> manager_;
+    std::unique_ptr<X11Platform>         platform_;
 };
 
 INSTANTIATE_TEST_SUITE_P(Desktops, X11Desktops, testing::Bool(),
@@ -225,7 +227,7 @@ TEST_P(X11Desktops, ListThatAManagerLeftBehindIsNotTrusted)
     }
     PlainWindow before("Before", "a");
     ASSERT_TRUE(WaitForWindows(1));
-    manager_->End(SIGKILL);
+    manager_->Kill();
     ASSERT_TRUE(test::Eventually([] { return !test::WindowManagerRuns(); }));
     PlainWindow after("After", "b");
     EXPECT_TRUE(test::Eventually([this] { return platform_->FindWindowByClass("After") != 0; }));

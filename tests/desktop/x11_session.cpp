@@ -55,6 +55,25 @@ std::vector<std::string> ReceiverCommand(const TempFolder& folder, const std::ve
     return command;
 }
 
+/// Waits until the server has done all that was asked of it.
+void Settle(const client::X11Connection& connection)
+{
+    const auto request = xcb_get_input_focus(connection.Raw());
+    client::Reply<xcb_get_input_focus_reply_t>(xcb_get_input_focus_reply(connection.Raw(), request, nullptr));
+}
+
+/// The command, after what an earlier manager left behind has been cleared away.
+std::vector<std::string> ManagerCommand()
+{
+    const client::X11Connection connection{std::string{}};
+    const client::X11Atoms&     atoms = connection.Atoms();
+    for (const xcb_atom_t property : {atoms.netActiveWindow, atoms.netClientListStacking, atoms.netSupportingWmCheck}) {
+        xcb_delete_property(connection.Raw(), connection.Root(), property);
+    }
+    Settle(connection);
+    return {"openbox"};
+}
+
 } // namespace
 
 bool Eventually(const std::function<bool()>& condition, std::chrono::seconds limit)
@@ -144,7 +163,22 @@ bool WindowManagerRuns()
     // A manager names itself before it has taken over the windows; its list comes last.
     const auto named = of(connection.Root(), atoms.netSupportingWmCheck);
     return named && !named->numbers.empty() && of(named->numbers.front(), atoms.netSupportingWmCheck) &&
-           of(connection.Root(), atoms.netClientListStacking) && of(connection.Root(), atoms.netActiveWindow);
+           of(connection.Root(), atoms.netClientListStacking);
+}
+
+WindowManager::WindowManager() : process_(ManagerCommand())
+{
+    if (!Eventually(WindowManagerRuns)) {
+        throw std::runtime_error("the window manager does not start");
+    }
+}
+
+void NudgeWindowManager()
+{
+    const client::X11Connection connection{std::string{}};
+    xcb_change_property(connection.Raw(), XCB_PROP_MODE_REPLACE, connection.Root(), XCB_ATOM_CUT_BUFFER7,
+                        XCB_ATOM_STRING, 8, 0, nullptr);
+    Settle(connection);
 }
 
 } // namespace qf::test

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <chrono>
+#include <csignal>
 #include <functional>
 #include <string>
 #include <vector>
@@ -60,7 +61,26 @@ void HoldDisplay();
 /// Every symbol of every key of the display's keyboard.
 std::vector<xcb_keysym_t> KeyboardMapping();
 
-/// True while a window manager answers for the display.
+/// True while a window manager answers for the display and has listed its windows.
 bool WindowManagerRuns();
+
+/// A window manager that runs as long as this lives.
+class WindowManager {
+  public:
+    WindowManager();
+    ~WindowManager() { process_.End(SIGTERM); }
+    WindowManager(const WindowManager&) = delete;
+    WindowManager& operator=(const WindowManager&) = delete;
+
+    /// Ends it without a chance to tidy up.
+    void Kill() { process_.End(SIGKILL); }
+
+  private:
+    ChildProcess process_;
+};
+
+/// Changes a property of the root window that nobody reads. A manager that has fallen asleep on an event
+/// which came while it started wakes up at the next one.
+void NudgeWindowManager();
 
 } // namespace qf::test

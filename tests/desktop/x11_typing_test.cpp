@@ -67,7 +67,10 @@ class X11Typing : public testing::Test {
     void StartReceiver(const std::vector<std::string>& options = {})
     {
         receiver_ = std::make_unique<test::Receiver>(options);
-        if (!test::Eventually([this] { return FindClientWindow(*platform_) != 0; })) {
+        if (!test::Eventually([this] {
+                test::NudgeWindowManager();
+                return FindClientWindow(*platform_) != 0;
+            })) {
             throw std::runtime_error("the receiver shows no window");
         }
     }
@@ -103,8 +106,7 @@ class X11TypingManaged : public X11Typing, public testing::WithParamInterface<bo
     {
         X11Typing::SetUp();
         if (!IsSkipped() && GetParam()) {
-            manager_ = std::make_unique<test::ChildProcess>(std::vector<std::string>{"openbox"});
-            ASSERT_TRUE(test::Eventually(test::WindowManagerRuns));
+            manager_ = std::make_unique<test::WindowManager>();
         }
     }
 
@@ -114,7 +116,7 @@ class X11TypingManaged : public X11Typing, public testing::WithParamInterface<bo
         manager_.reset();
     }
 
-    std::unique_ptr<test::ChildProcess> manager_;
+    std::unique_ptr<test::WindowManager> manager_;
 };
 
 INSTANTIATE_TEST_SUITE_P(Desktops, X11TypingManaged, testing::Bool(),

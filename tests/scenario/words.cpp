@@ -103,7 +103,7 @@ class StringReader {
             const char    digit = Take();
             std::uint32_t value = 0;
             if (std::from_chars(&digit, &digit + 1, value, 16).ec != std::errc()) {
-                throw LineError("\"\\u\" without four hexadecimal digits");
+                throw LineError(R"("\u" without four hexadecimal digits)");
             }
             unit = unit * 16 + value;
         }

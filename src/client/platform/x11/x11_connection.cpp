@@ -44,9 +44,10 @@ X11Connection::X11Connection(const std::string& display)
 
 void X11Connection::InternAtoms()
 {
-    const std::array<std::pair<std::string_view, xcb_atom_t*>, 9> wanted{{
+    const std::array<std::pair<std::string_view, xcb_atom_t*>, 10> wanted{{
         {"_NET_ACTIVE_WINDOW", &atoms_.netActiveWindow},
         {"_NET_CLIENT_LIST_STACKING", &atoms_.netClientListStacking},
+        {"_NET_SUPPORTED", &atoms_.netSupported},
         {"_NET_SUPPORTING_WM_CHECK", &atoms_.netSupportingWmCheck},
         {"_NET_WM_NAME", &atoms_.netWmName},
         {"_NET_WM_PID", &atoms_.netWmPid},
@@ -118,9 +119,9 @@ std::optional<X11Property> X11Connection::Take(xcb_get_property_cookie_t request
     return property;
 }
 
-void X11Connection::SelectRootEvents(std::uint32_t mask) const
+void X11Connection::SelectEvents(xcb_window_t window, std::uint32_t mask) const
 {
-    xcb_change_window_attributes(Raw(), root_, XCB_CW_EVENT_MASK, &mask);
+    xcb_change_window_attributes(Raw(), window, XCB_CW_EVENT_MASK, &mask);
 }
 
 void X11Connection::SendClientMessage(xcb_window_t destination, std::uint32_t mask, xcb_window_t window,

@@ -25,6 +25,7 @@ using Reply = std::unique_ptr<T, FreeReply>;
 struct X11Atoms {
     xcb_atom_t netActiveWindow = XCB_ATOM_NONE;
     xcb_atom_t netClientListStacking = XCB_ATOM_NONE;
+    xcb_atom_t netSupported = XCB_ATOM_NONE;
     xcb_atom_t netSupportingWmCheck = XCB_ATOM_NONE;
     xcb_atom_t netWmName = XCB_ATOM_NONE;
     xcb_atom_t netWmPid = XCB_ATOM_NONE;
@@ -64,9 +65,9 @@ class X11Connection {
     xcb_get_property_cookie_t  Ask(xcb_window_t window, xcb_atom_t property, xcb_atom_t type) const;
     std::optional<X11Property> Take(xcb_get_property_cookie_t request) const;
 
-    /// Selects the events that the root window reports to this connection. The idle program selects
-    /// none, because the server would keep them for it without bound.
-    void SelectRootEvents(std::uint32_t mask) const;
+    /// Selects the events that a window reports to this connection. The idle program selects none, because
+    /// the server would keep them for it without bound.
+    void SelectEvents(xcb_window_t window, std::uint32_t mask) const;
 
     /// Sends a client message of format 32.
     void SendClientMessage(xcb_window_t destination, std::uint32_t mask, xcb_window_t window, xcb_atom_t type,

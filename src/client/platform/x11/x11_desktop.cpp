@@ -70,6 +70,14 @@ bool X11Desktop::ManagerRuns(const ManagerRequest& request)
     return confirmed == named;
 }
 
+bool X11Desktop::ManagerSupports(xcb_atom_t feature) const
+{
+    const auto request = connection_.Ask(connection_.Root(), connection_.Atoms().netSupported, XCB_ATOM_ATOM);
+    const auto supported = connection_.Take(request);
+    return supported &&
+           std::find(supported->numbers.begin(), supported->numbers.end(), feature) != supported->numbers.end();
+}
+
 std::vector<X11Desktop::WindowRequest> X11Desktop::AskFor(const std::vector<xcb_window_t>& windows) const
 {
     const X11Atoms&            atoms = connection_.Atoms();
@@ -152,7 +160,11 @@ std::vector<xcb_window_t> X11Desktop::Handles()
     if (managed && listed) {
         return {listed->numbers.rbegin(), listed->numbers.rend()};
     }
-    return ClientsAmong(tree, DeepestFrame);
+    std::vector<xcb_window_t> windows = ClientsAmong(tree, DeepestFrame);
+    if (managed) {
+        std::erase(windows, manager_);
+    }
+    return windows;
 }
 
 /// The viewable children, the topmost first; in place of a frame the client window in it. A child that
@@ -249,7 +261,8 @@ xcb_window_t X11Desktop::Foreground()
     const auto activeReply = connection_.Take(active);
 
     const Reply<xcb_get_input_focus_reply_t> focused(xcb_get_input_focus_reply(connection_.Raw(), focus, nullptr));
-    if (managed && activeReply) {
+    // A manager that keeps the property may not have set it yet, and then no window is in front.
+    if (managed && (activeReply || ManagerSupports(connection_.Atoms().netActiveWindow))) {
         return FirstNumber(activeReply);
     }
     if (!focused || focused->focus == XCB_INPUT_FOCUS_NONE || focused->focus == XCB_INPUT_FOCUS_POINTER_ROOT) {
@@ -264,7 +277,7 @@ void X11Desktop::BringToForeground(xcb_window_t window)
         return;
     }
     // What is typed at a window without the focus is lost, so a manager that takes its time is waited for.
-    connection_.SelectRootEvents(XCB_EVENT_MASK_PROPERTY_CHANGE);
+    connection_.SelectEvents(connection_.Root(), XCB_EVENT_MASK_PROPERTY_CHANGE);
     if (ManagerRuns(AskForManager())) {
         connection_.SendClientMessage(
             connection_.Root(), XCB_EVENT_MASK_SUBSTRUCTURE_NOTIFY | XCB_EVENT_MASK_SUBSTRUCTURE_REDIRECT, window,
@@ -275,7 +288,7 @@ void X11Desktop::BringToForeground(xcb_window_t window)
         xcb_set_input_focus(connection_.Raw(), XCB_INPUT_FOCUS_POINTER_ROOT, window, XCB_CURRENT_TIME);
     }
     connection_.WaitUntil(ForegroundWait, [this, window] { return Foreground() == window || !Exists(window); });
-    connection_.SelectRootEvents(XCB_EVENT_MASK_NO_EVENT);
+    connection_.SelectEvents(connection_.Root(), XCB_EVENT_MASK_NO_EVENT);
     connection_.Flush();
 }
 

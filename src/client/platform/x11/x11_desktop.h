@@ -46,6 +46,7 @@ class X11Desktop {
     ManagerRequest             AskForManager() const;
     std::vector<WindowRequest> AskFor(const std::vector<xcb_window_t>& windows) const;
     bool                       ManagerRuns(const ManagerRequest& request);
+    bool                       ManagerSupports(xcb_atom_t feature) const;
     std::vector<xcb_window_t>  Handles();
     std::vector<xcb_window_t>  ClientsAmong(const Reply<xcb_query_tree_reply_t>& tree, int depth) const;
     xcb_window_t               ClientInside(xcb_window_t window, int depth) const;

@@ -41,6 +41,8 @@ void X11Typist::Hear(const xcb_generic_event_t& event)
     const std::uint8_t kind = event.response_type & EventKind;
     if (kind == connection_.KeyboardEvent() || kind == XCB_MAPPING_NOTIFY) {
         keyboard_.MarkStale();
+    } else if (kind == XCB_DESTROY_NOTIFY) {
+        gone_ = gone_ || reinterpret_cast<const xcb_destroy_notify_event_t&>(event).window == window_;
     } else if (kind == XCB_CLIENT_MESSAGE) {
         const auto& message = reinterpret_cast<const xcb_client_message_event_t&>(event);
         if (message.type == connection_.Atoms().wmProtocols && message.format == 32 &&
@@ -162,11 +164,15 @@ void X11Typist::AwaitReader()
     }
     ++ping_;
     answered_ = false;
-    connection_.SelectRootEvents(XCB_EVENT_MASK_SUBSTRUCTURE_NOTIFY);
+    connection_.SelectEvents(window_, XCB_EVENT_MASK_STRUCTURE_NOTIFY);
+    connection_.SelectEvents(connection_.Root(), XCB_EVENT_MASK_SUBSTRUCTURE_NOTIFY);
     connection_.SendClientMessage(window_, XCB_EVENT_MASK_NO_EVENT, window_, connection_.Atoms().wmProtocols,
                                   connection_.Atoms().netWmPing, ping_, window_);
     connection_.WaitUntil(AnswerWait, [this] { return answered_ || gone_; });
-    connection_.SelectRootEvents(XCB_EVENT_MASK_NO_EVENT);
+    connection_.SelectEvents(connection_.Root(), XCB_EVENT_MASK_NO_EVENT);
+    if (!gone_) {
+        connection_.SelectEvents(window_, XCB_EVENT_MASK_NO_EVENT);
+    }
     connection_.Flush();
 }
 

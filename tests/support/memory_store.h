@@ -9,7 +9,7 @@
 #include "core/runtime_error.h"
 #include "core/settings.h"
 
-namespace qf::app {
+namespace qf::test {
 
 /// A store in memory that notes its writes and refuses those from the `failsAt`-th write on, counted from 0,
 /// where that is not 0.
@@ -45,4 +45,4 @@ class MemoryStore final : public core::SettingsStore {
     std::map<std::string, std::string> texts_;
 };
 
-} // namespace qf::app
+} // namespace qf::test
