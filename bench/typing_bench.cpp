@@ -195,8 +195,7 @@ Measure PostBare(const std::string& program, int commands)
         connection.Flush();
     }
     // A reply means that the server has taken all.
-    const auto request = xcb_get_input_focus(connection.Raw());
-    client::Reply<xcb_get_input_focus_reply_t>(xcb_get_input_focus_reply(connection.Raw(), request, nullptr));
+    connection.Settle();
     measure.posted = SecondsSince(start);
     measure.arrived = receiver.WaitForLines(commands + 1) - 1;
     measure.delivered = SecondsSince(start);
@@ -266,7 +265,7 @@ std::string ReceiverProgram(int argc, char** argv)
 
 int main(int argc, char** argv)
 {
-    const int commands = argc > 1 ? std::atoi(argv[1]) : 10'000;
+    const int commands = argc > 1 ? static_cast<int>(std::strtol(argv[1], nullptr, 10)) : 10'000;
     if (commands <= 0) {
         std::fputs("typing_bench [COMMANDS] [RECEIVER]\n", stderr);
         return EXIT_FAILURE;

@@ -7,7 +7,7 @@ namespace qf::practice {
 
 namespace {
 
-constexpr int SmallestSide = 320;
+constexpr int SmallestSide = 240;
 constexpr int LargestSide = 8192;
 
 int Side(std::string_view text)
@@ -16,7 +16,7 @@ int Side(std::string_view text)
     const auto end = text.data() + text.size();
     const auto read = std::from_chars(text.data(), end, side);
     if (read.ec != std::errc() || read.ptr != end || side < SmallestSide || side > LargestSide) {
-        throw UsageError("--size takes WIDTHxHEIGHT, each from 320 to 8192, for example 1024x768");
+        throw UsageError("--size takes WIDTHxHEIGHT, each from 240 to 8192, for example 1024x768");
     }
     return side;
 }

@@ -5,6 +5,7 @@
 #include <filesystem>
 #include <iostream>
 #include <stdexcept>
+#include <string_view>
 #include <utility>
 
 #include "practice/hud.h"
@@ -48,6 +49,11 @@ PracticeClient::PracticeClient(const Options& options)
     SDL_SetHint(SDL_HINT_FRAMEBUFFER_ACCELERATION, "0");
     if (SDL_Init(SDL_INIT_VIDEO) != 0) {
         throw SdlError("the display cannot be used");
+    }
+    // Without a display the library may draw into nowhere; that is wanted only where it is asked for.
+    if (std::string_view(SDL_GetCurrentVideoDriver()) == "offscreen" && SDL_getenv("SDL_VIDEODRIVER") == nullptr) {
+        SDL_Quit();
+        throw std::runtime_error("there is no display");
     }
     try {
         // Opened first, so that the window that takes the typing comes to lie above it.

@@ -2,7 +2,6 @@
 
 #include <QLinearGradient>
 #include <QPainter>
-#include <QPainterPath>
 
 namespace qf::app {
 
@@ -13,16 +12,15 @@ void DrawStone(QPainter& painter, double top, double thickness, double radius, c
 {
     const double flat = radius * 0.46;
     const QRectF face(0.5 - radius, top - flat, 2 * radius, 2 * flat);
-    QPainterPath rim;
-    rim.addEllipse(face.translated(0, thickness));
-    rim.addRect(QRectF(face.left(), top, face.width(), thickness));
-
     QLinearGradient side(face.left(), 0, face.right(), 0);
     side.setColorAt(0, dark);
     side.setColorAt(0.35, light.darker(112));
     side.setColorAt(1, dark.darker(130));
     painter.setBrush(side);
-    painter.drawPath(rim.simplified());
+    painter.drawEllipse(face.translated(0, thickness));
+    painter.fillRect(QRectF(face.left(), top, face.width(), thickness), side);
+    painter.drawLine(QPointF(face.left(), top), QPointF(face.left(), top + thickness));
+    painter.drawLine(QPointF(face.right(), top), QPointF(face.right(), top + thickness));
 
     QLinearGradient upper(face.topLeft(), face.bottomRight());
     upper.setColorAt(0, light.lighter(112));

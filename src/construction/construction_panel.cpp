@@ -324,10 +324,9 @@ void ConstructionPanel::Step(std::string_view target, bool copiesArea)
     if (auto* neighbour = dynamic_cast<ConstructionPanel*>(&next); neighbour != nullptr && copiesArea) {
         neighbour->SetArea(Area());
     }
-    const auto place = pos();
+    next.move(pos());
     hide();
     Context().panels.Show(target);
-    next.move(place);
 }
 
 } // namespace qf::construction

@@ -19,6 +19,7 @@ namespace {
 pid_t Start(const std::vector<std::string>& command)
 {
     std::vector<char*> texts;
+    texts.reserve(command.size() + 1);
     for (const std::string& text : command) {
         texts.push_back(const_cast<char*>(text.c_str()));
     }
@@ -55,13 +56,6 @@ std::vector<std::string> ReceiverCommand(const TempFolder& folder, const std::ve
     return command;
 }
 
-/// Waits until the server has done all that was asked of it.
-void Settle(const client::X11Connection& connection)
-{
-    const auto request = xcb_get_input_focus(connection.Raw());
-    client::Reply<xcb_get_input_focus_reply_t>(xcb_get_input_focus_reply(connection.Raw(), request, nullptr));
-}
-
 /// The command, after what an earlier manager left behind has been cleared away.
 std::vector<std::string> ManagerCommand()
 {
@@ -70,7 +64,7 @@ std::vector<std::string> ManagerCommand()
     for (const xcb_atom_t property : {atoms.netActiveWindow, atoms.netClientListStacking, atoms.netSupportingWmCheck}) {
         xcb_delete_property(connection.Raw(), connection.Root(), property);
     }
-    Settle(connection);
+    connection.Settle();
     return {"openbox"};
 }
 
@@ -178,7 +172,7 @@ void NudgeWindowManager()
     const client::X11Connection connection{std::string{}};
     xcb_change_property(connection.Raw(), XCB_PROP_MODE_REPLACE, connection.Root(), XCB_ATOM_CUT_BUFFER7,
                         XCB_ATOM_STRING, 8, 0, nullptr);
-    Settle(connection);
+    connection.Settle();
 }
 
 } // namespace qf::test

@@ -94,6 +94,12 @@ void X11Connection::StartKeyboardExtension()
     xcb_xkb_select_events_aux(Raw(), XCB_XKB_ID_USE_CORE_KBD, Kinds, 0, 0, MapParts, MapParts, &details);
 }
 
+void X11Connection::Settle() const
+{
+    const auto request = xcb_get_input_focus(Raw());
+    Reply<xcb_get_input_focus_reply_t>(xcb_get_input_focus_reply(Raw(), request, nullptr));
+}
+
 xcb_get_property_cookie_t X11Connection::Ask(xcb_window_t window, xcb_atom_t property, xcb_atom_t type) const
 {
     return xcb_get_property(Raw(), 0, window, property, type, 0, LongestProperty);
@@ -112,7 +118,7 @@ std::optional<X11Property> X11Connection::Take(xcb_get_property_cookie_t request
     property.type = reply->type;
     if (reply->format == 8) {
         property.text.assign(bytes, length);
-    } else if (reply->format == 32) {
+    } else if (reply->format == 32 && length >= sizeof(std::uint32_t)) {
         property.numbers.resize(length / sizeof(std::uint32_t));
         std::memcpy(property.numbers.data(), bytes, property.numbers.size() * sizeof(std::uint32_t));
     }

@@ -62,6 +62,10 @@ class X11Connection {
 
     void Flush() const { xcb_flush(connection_.get()); }
 
+    /// Waits until the server has done all that was asked of it. A connection that ends earlier may take
+    /// requests with it that were sent already.
+    void Settle() const;
+
     xcb_get_property_cookie_t  Ask(xcb_window_t window, xcb_atom_t property, xcb_atom_t type) const;
     std::optional<X11Property> Take(xcb_get_property_cookie_t request) const;
 

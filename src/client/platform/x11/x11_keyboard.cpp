@@ -51,8 +51,10 @@ void X11Keyboard::GiveBack()
         xcb_change_keyboard_mapping(connection_.Raw(), 1, one.code, 1, &nothing);
         stale_ = true;
     }
-    borrowed_.clear();
-    connection_.Flush();
+    if (!borrowed_.empty()) {
+        borrowed_.clear();
+        connection_.Settle();
+    }
 }
 
 } // namespace qf::client

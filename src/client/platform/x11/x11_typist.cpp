@@ -23,10 +23,10 @@ constexpr std::uint8_t EventKind = 0x7F;
 
 X11Typist::~X11Typist()
 {
-    connection_.Flush();
     if (keyboard_.HasBorrowed()) {
         AwaitReader();
     }
+    connection_.Settle();
 }
 
 void X11Typist::Hear(const xcb_generic_event_t& event)
