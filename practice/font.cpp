@@ -122,7 +122,8 @@ bool GlyphPoint(char32_t character, int column, int row)
     }
     const bool             known = character >= FirstGlyph && character <= LastGlyph;
     const std::string_view glyph = known ? Glyphs[character - FirstGlyph] : BoxGlyph;
-    return glyph[static_cast<std::size_t>(row * (GlyphWidth + 1) + column)] == '#';
+    const int              place = row * (GlyphWidth + 1) + column;
+    return glyph[static_cast<std::size_t>(place)] == '#';
 }
 
 char32_t NextCharacter(std::string_view& text)

@@ -26,11 +26,6 @@ std::filesystem::path PathOf(const std::string& text)
     return {std::u8string(text.begin(), text.end())};
 }
 
-std::runtime_error SdlError(const std::string& what)
-{
-    return std::runtime_error(what + ": " + SDL_GetError());
-}
-
 } // namespace
 
 PracticeClient::PracticeClient(const Options& options)
@@ -48,7 +43,7 @@ PracticeClient::PracticeClient(const Options& options)
     // A picture that is drawn in memory gains nothing from a way through the graphics card.
     SDL_SetHint(SDL_HINT_FRAMEBUFFER_ACCELERATION, "0");
     if (SDL_Init(SDL_INIT_VIDEO) != 0) {
-        throw SdlError("the display cannot be used");
+        throw std::runtime_error(std::string("the display cannot be used: ") + SDL_GetError());
     }
     // Without a display the library may draw into nowhere; that is wanted only where it is asked for.
     if (std::string_view(SDL_GetCurrentVideoDriver()) == "offscreen" && SDL_getenv("SDL_VIDEODRIVER") == nullptr) {
@@ -64,9 +59,9 @@ PracticeClient::PracticeClient(const Options& options)
     window_ = SDL_CreateWindow("ClassicUO - Practice", SDL_WINDOWPOS_CENTERED, SDL_WINDOWPOS_CENTERED, options_.width,
                                options_.height, SDL_WINDOW_RESIZABLE);
     if (window_ == nullptr) {
-        const std::runtime_error error = SdlError("the window cannot be opened");
+        const std::string why = SDL_GetError();
         SDL_Quit();
-        throw error;
+        throw std::runtime_error("the window cannot be opened: " + why);
     }
     SDL_SetEventFilter(&PracticeClient::FilterEvent, this);
     SDL_StartTextInput();

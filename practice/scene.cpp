@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <ranges>
 #include <string>
 
 namespace qf::practice {
@@ -211,9 +212,9 @@ std::optional<Spot> Scene::Pick(const ScreenPoint& pixel, int width, int height,
 {
     constexpr Argb SolidAlpha = 0x80;
     Gather(width, height, session, camera);
-    for (auto item = items_.rbegin(); item != items_.rend(); ++item) {
-        if (item->tile && item->sprite->sprite.At(pixel.x - item->at.x, pixel.y - item->at.y) >> 24U >= SolidAlpha) {
-            return Spot{item->tile->at, item->tile};
+    for (const Item& item : std::views::reverse(items_)) {
+        if (item.tile && item.sprite->sprite.At(pixel.x - item.at.x, pixel.y - item.at.y) >> 24U >= SolidAlpha) {
+            return Spot{item.tile->at, item.tile};
         }
     }
     const Position ground = camera.Project(width, height).CellAt(pixel.x, pixel.y, 0);

@@ -106,7 +106,7 @@ SpritePainter::Flat SpritePainter::Project(const CellPoint& point) const
 
 void SpritePainter::Put(int x, int y, Argb colour)
 {
-    samples_[static_cast<std::size_t>(y) * static_cast<std::size_t>(width_) + static_cast<std::size_t>(x)] = colour;
+    samples_[Index(x, y)] = colour;
 }
 
 template <typename Visit>
@@ -244,10 +244,8 @@ Sprite SpritePainter::Finish(bool softEdges) const
             Argb alpha = 0;
             Argb sum[3]{};
             for (int part = 0; part < Samples * Samples; ++part) {
-                const std::size_t row = static_cast<std::size_t>(y * Samples + part / Samples);
-                const std::size_t column = static_cast<std::size_t>(x * Samples + part % Samples);
-                const Argb        sample = samples_[row * static_cast<std::size_t>(width_) + column];
-                const Argb        weight = sample >> 24U;
+                const Argb sample = samples_[Index(x * Samples + part % Samples, y * Samples + part / Samples)];
+                const Argb weight = sample >> 24U;
                 alpha += weight;
                 sum[0] += (sample >> 16U & 0xFFU) * weight;
                 sum[1] += (sample >> 8U & 0xFFU) * weight;

@@ -52,7 +52,11 @@ class SpritePainter {
         double x = 0.0;
         double y = 0.0;
     };
-    Flat Project(const CellPoint& point) const;
+    Flat        Project(const CellPoint& point) const;
+    std::size_t Index(int x, int y) const
+    {
+        return static_cast<std::size_t>(y) * static_cast<std::size_t>(width_) + static_cast<std::size_t>(x);
+    }
     void Put(int x, int y, Argb colour);
 
     template <typename Visit>

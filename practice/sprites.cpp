@@ -358,7 +358,8 @@ Sprite PaintGround(int variant, const Scale& scale)
 {
     SpritePainter painter(scale);
     const bool    bright = variant % 2 == 0;
-    const double  light = (bright ? 1.0 : 0.955) + 0.012 * (variant / 2);
+    const int     shade = variant / 2;
+    const double  light = (bright ? 1.0 : 0.955) + 0.012 * shade;
     painter.Paint({{0, 0, 0}, {1, 0, 0}, {0, 1, 0}}, Lit(GroundTint, light), Pattern::Plain);
     constexpr int Tufts = 5;
     for (int i = 0; i < Tufts; ++i) {

@@ -3,7 +3,7 @@
 #include <QCheckBox>
 #include <QTabWidget>
 
-#include "construction/construction_panel.h"
+#include "construction/frmConstruction.h"
 #include "construction/floors.h"
 
 namespace qf::construction {

@@ -1,4 +1,4 @@
-#include "construction/construction_panel.h"
+#include "construction/frmConstruction.h"
 
 #include <QHBoxLayout>
 #include <QVBoxLayout>
