@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <cmath>
-#include <ranges>
 #include <string>
 
 namespace qf::practice {
@@ -212,10 +211,11 @@ std::optional<Spot> Scene::Pick(const ScreenPoint& pixel, int width, int height,
 {
     constexpr Argb SolidAlpha = 0x80;
     Gather(width, height, session, camera);
-    for (const Item& item : std::views::reverse(items_)) {
-        if (item.tile && item.sprite->sprite.At(pixel.x - item.at.x, pixel.y - item.at.y) >> 24U >= SolidAlpha) {
-            return Spot{item.tile->at, item.tile};
-        }
+    const auto hit = std::find_if(items_.rbegin(), items_.rend(), [&](const Item& item) {
+        return item.tile && item.sprite->sprite.At(pixel.x - item.at.x, pixel.y - item.at.y) >> 24U >= SolidAlpha;
+    });
+    if (hit != items_.rend()) {
+        return Spot{hit->tile->at, hit->tile};
     }
     const Position ground = camera.Project(width, height).CellAt(pixel.x, pixel.y, 0);
     return IsOnMap(ground) ? std::optional(Spot{ground, std::nullopt}) : std::nullopt;
