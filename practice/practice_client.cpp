@@ -264,8 +264,13 @@ void PracticeClient::ShowPosition()
     if (shownPosition_ == position) {
         return;
     }
+    const bool moved = shownPosition_.has_value();
     shownPosition_ = position;
     memory_.Write(position);
+    if (moved && log_.is_open()) {
+        // Written behind the memory, so that who waits for the line reads the new place.
+        log_ << "position " << position.x << ' ' << position.y << ' ' << position.z << std::endl;
+    }
     if (classWindow_) {
         classWindow_->Show(position);
     }
