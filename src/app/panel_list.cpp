@@ -3,7 +3,9 @@
 #include "app/application.h"
 #include "app/frmAbout.h"
 #include "app/frmMain.h"
+#include "app/frmOptions.h"
 #include "app/frmSplash.h"
+#include "console/frmWipe.h"
 #include "construction/frmFloors.h"
 
 namespace qf::app {
@@ -18,10 +20,12 @@ std::unique_ptr<ui::Panel> Make(ui::AppContext& context)
 
 // clang-format off
 constexpr std::array panelList{
-    ui::PanelEntry{"frmSplash", Make<frmSplash>},
-    ui::PanelEntry{"frmMain",   Make<frmMain>},
-    ui::PanelEntry{"frmAbout",  Make<frmAbout>},
-    ui::PanelEntry{"frmFloors", Make<construction::frmFloors>},
+    ui::PanelEntry{"frmSplash",  Make<frmSplash>},
+    ui::PanelEntry{"frmMain",    Make<frmMain>},
+    ui::PanelEntry{"frmAbout",   Make<frmAbout>},
+    ui::PanelEntry{"frmOptions", Make<frmOptions>},
+    ui::PanelEntry{"frmFloors",  Make<construction::frmFloors>},
+    ui::PanelEntry{"frmWipe",    Make<console::frmWipe>},
 };
 // clang-format on
 

@@ -14,7 +14,6 @@
 
 #include "core/host_path.h"
 #include "core/product.h"
-#include "core/text.h"
 #include "ui/parts.h"
 
 namespace qf::app {
@@ -99,17 +98,16 @@ void DesktopShell::OpenAddress(std::string_view address)
 void DesktopShell::StartProgram(std::string_view program, std::string_view folder)
 {
     const auto host = HostText(folder);
-    if (folder.empty() || !QDir(host).exists()) {
+    // The program's own working folder stays changed, whatever becomes of the start.
+    if (folder.empty() || !QDir::setCurrent(host)) {
         throw core::RuntimeError(core::error::PathNotFound);
     }
     // A name without a folder is looked for where the program is to run.
-    const auto path =
-        core::LastBackslash(program) > 0 ? std::string(program) : std::string(folder) + "\\" + std::string(program);
-    const auto file = HostText(path);
-    if (!QFileInfo(file).isFile()) {
+    const QFileInfo file(HostText(program));
+    if (!file.isFile()) {
         throw core::RuntimeError(core::error::FileNotFound);
     }
-    if (!QProcess::startDetached(file, {}, host)) {
+    if (!QProcess::startDetached(file.absoluteFilePath(), {})) {
         throw core::RuntimeError(core::error::InvalidCall);
     }
 }

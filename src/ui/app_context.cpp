@@ -1,7 +1,10 @@
 #include "ui/app_context.h"
 
+#include <QCheckBox>
+
 #include "client/delivery.h"
 #include "core/number_rules.h"
+#include "ui/panel.h"
 
 namespace qf::ui {
 
@@ -60,7 +63,11 @@ void AppContext::ShowCalibrationNag()
 
 bool AppContext::StayOnTopWanted()
 {
-    return settings.StayOnTop;
+    if (!panels.Has("frmOptions")) {
+        return settings.StayOnTop;
+    }
+    const auto* box = panels.Touch("frmOptions").findChild<QCheckBox*>(QStringLiteral("ChkStayOnTop"));
+    return box != nullptr && box->checkState() == Qt::Checked;
 }
 
 } // namespace qf::ui

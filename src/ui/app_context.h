@@ -47,7 +47,8 @@ class AppContext {
 
     void CopyToClipboard(std::string_view text) { environment.clipboard.SetText(text); }
 
-    /// Whether "Stay On Top" is ticked for panels that load now.
+    /// Whether "Stay On Top" is ticked on the configuration panel now, saved or not. Loads that panel,
+    /// invisibly, where it is not loaded.
     bool StayOnTopWanted();
 
   private:

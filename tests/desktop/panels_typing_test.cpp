@@ -1,23 +1,13 @@
 #include <QApplication>
-#include <QLineEdit>
 #include <QPushButton>
 #include <QRadioButton>
 #include <QTabWidget>
 #include <gtest/gtest.h>
 
-#include "app/application.h"
-#include "client/delivery.h"
-#include "client/platform/x11/x11_platform.h"
 #include "construction/floors.h"
-#include "core/host_path.h"
-#include "desktop/x11_session.h"
-#include "support/memory_store.h"
-#include "support/quiet_services.h"
+#include "desktop/program_on_desktop.h"
 #include "support/recording_outlet.h"
 #include "ui/option_array.h"
-#include "ui/panel.h"
-#include "ui/parts.h"
-#include "world/database.h"
 
 // The program's own panels type into the practice client, which runs in another process; what it received
 // must be what the compositions give.
@@ -27,57 +17,13 @@ namespace {
 
 using Lines = std::vector<std::string>;
 
-/// A run of the program on the real desktop, with its settings in memory.
-class ProgramOnDesktop {
-  public:
-    ProgramOnDesktop(int generation, const std::string& prefix) : platform_(std::string())
-    {
-        world::CreateWorldDatabase(folder_.Path() / "qf.mdb");
-        store_.Write(core::section::Configuration, "ZarnVer", std::to_string(generation));
-        store_.Write(core::section::Configuration, "CommandPrefix", prefix);
-        environment_.emplace(ui::Environment{store_, platform_, services_, services_, services_, services_, services_,
-                                             services_, uniform_, core::ProgramPath(folder_.Path())});
-        run_.emplace(*environment_);
-        EXPECT_TRUE(run_->Main());
-    }
-
-    ui::Panel& Open(std::string_view name) { return run_->Context().panels.Show(name); }
-
-    bool WaitForClient()
-    {
-        return test::Eventually([this] { return client::FindClientWindow(platform_) != 0; });
-    }
-
-    const Lines& Boxes() const { return services_.boxes; }
-
-  private:
-    test::TempFolder                folder_;
-    test::MemoryStore               store_;
-    test::QuietServices             services_;
-    client::X11Platform             platform_;
-    core::PseudoUniformGenerator    uniform_;
-    std::optional<ui::Environment>  environment_;
-    std::optional<app::Application> run_;
-};
-
-template <typename Control>
-Control& Find(const ui::Panel& panel, const QString& name)
-{
-    auto* found = panel.findChild<Control*>(name);
-    if (found == nullptr) {
-        throw std::runtime_error("no control " + ui::Utf8(name));
-    }
-    return *found;
-}
+using test::Fill;
+using test::Find;
+using test::ProgramOnDesktop;
 
 void Choose(const ui::Panel& panel, std::string_view array, int index)
 {
     Find<QRadioButton>(panel, ui::MemberName(array, index)).click();
-}
-
-void Fill(const ui::Panel& panel, const char* box, const char* text)
-{
-    Find<QLineEdit>(panel, QLatin1String(box)).setText(QLatin1String(text));
 }
 
 struct Kind {

@@ -23,6 +23,7 @@
 #include "scenario/words.h"
 #include "ui/panel.h"
 #include "ui/parts.h"
+#include "ui/path_box.h"
 #include "ui/picture_surface.h"
 
 namespace qf::scenario {
@@ -71,6 +72,10 @@ Value Caption(const QObject& control)
 
 Value TextOf(const QObject& control)
 {
+    // Scenarios write paths as the program does, whatever the system shows its user.
+    if (const auto* box = dynamic_cast<const ui::PathBox*>(&control)) {
+        return box->ProgramText();
+    }
     if (const auto* box = As<QLineEdit>(control)) {
         return Utf8(box->text());
     }
@@ -88,6 +93,9 @@ Value TextOf(const QObject& control)
 
 Value Selection(const QObject& control)
 {
+    if (const auto* box = dynamic_cast<const ui::PathBox*>(&control)) {
+        return box->SelectedProgramText();
+    }
     if (const auto* box = As<QLineEdit>(control)) {
         return Utf8(box->selectedText());
     }
