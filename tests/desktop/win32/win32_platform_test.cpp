@@ -13,6 +13,7 @@
 #include <gtest/gtest.h>
 #include <windows.h>
 
+#include "client/calibration.h"
 #include "client/delivery.h"
 #include "client/location.h"
 #include "core/ansi.h"
@@ -340,6 +341,28 @@ TEST(Win32Location, IsAskedOfTheAssistWindow)
     TargetProcess target("--assist " + std::to_string(567 * 65536 + 1234));
     Win32Platform platform;
     EXPECT_EQ(GetPlayerLocation(platform, CalibrationOf(target), true), (PlayerLocation{0, 567, 1234}));
+}
+
+TEST(Win32Location, IsFoundByCalibrationInTheMemoryOfTheClient)
+{
+    const TargetProcess target("--position 12345 23456 -77");
+    Win32Platform       platform;
+
+    const auto address = CalibrateLocation(platform, 12345, 23456, -77, false);
+    ASSERT_GT(address, 0);
+    EXPECT_LE(static_cast<std::uint64_t>(address), target.PositionAddress());
+    EXPECT_EQ(GetPlayerLocation(platform, address, false), (PlayerLocation{-77, 23456, 12345}));
+    EXPECT_EQ(CalibrateLocation(platform, 12345, 23456, -78, false), 0);
+}
+
+TEST(Win32Location, CalibratesThroughTheAssistWindowWithItsRawAnswer)
+{
+    const std::int32_t  answer = 567 * 65536 + 1234;
+    const TargetProcess target("--assist " + std::to_string(answer));
+    Win32Platform       platform;
+
+    EXPECT_EQ(CalibrateLocation(platform, 0, 0, 0, true), answer);
+    EXPECT_EQ(GetPlayerLocation(platform, 7000, true), (PlayerLocation{0, 567, 1234}));
 }
 
 TEST(Win32Location, IsUnknownWithoutAClient)
