@@ -61,13 +61,11 @@ bool Application::Main()
         environment_.process.End();
         return false;
     }
-    try {
-        Start();
-    } catch (const core::RuntimeError& error) {
-        environment_.boxes.Show(StartupErrorBox(error));
-        environment_.process.End();
-        return false;
-    }
+    environment_.process.Run([this] { Start(); },
+                             [this](const core::RuntimeError& error) {
+                                 environment_.boxes.Show(StartupErrorBox(error));
+                                 environment_.process.End();
+                             });
     return !environment_.process.HasEnded();
 }
 

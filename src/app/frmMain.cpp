@@ -4,6 +4,8 @@
 #include <QHBoxLayout>
 #include <QVBoxLayout>
 #include <span>
+#include <string>
+#include <vector>
 
 #include "app/quern_picture.h"
 #include "core/number_rules.h"
@@ -15,7 +17,7 @@ namespace {
 
 constexpr std::string_view Caption = "Dobrin's Quernfield 2025";
 
-constexpr int MainPanelIndex = 0;
+constexpr std::size_t MainPanelIndex = 0;
 
 constexpr auto FirstSteps =
     "<p><b>1.</b> Start the game client, log in with your Game Master and leave the chat line empty. To try everything "
@@ -81,7 +83,7 @@ void frmMain::Layout()
             layout->addWidget(MakeToolButton(frame, tool), place / columns, place % columns);
             ++place;
         }
-                return frame;
+        return frame;
     };
 
     SSTab1 = new QTabWidget(this);
@@ -202,10 +204,15 @@ void frmMain::Unload()
     if (!isMinimized()) {
         SavePosition();
     }
-    auto& panels = Context().panels;
-    auto  open = panels.LoadOrder();
-    for (int index = static_cast<int>(open.size()) - 1; index > MainPanelIndex; --index) {
-        panels.Unload(*open[static_cast<std::size_t>(index)]);
+    auto&      panels = Context().panels;
+    std::vector<std::string> open;
+    for (const auto* panel : panels.LoadOrder()) {
+        open.emplace_back(panel->Name());
+    }
+    for (auto index = open.size(); index-- > MainPanelIndex + 1;) {
+        if (auto* panel = panels.Loaded(open[index])) {
+            panels.Unload(*panel);
+        }
     }
     Context().environment.process.End();
 }

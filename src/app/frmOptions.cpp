@@ -147,7 +147,7 @@ QCheckBox* frmOptions::MakeCheck(QWidget* parent, std::string_view name, std::st
     box->setToolTip(ui::Text(toolTip));
     KeepPlaceWhenHidden(*box);
     if (handler) {
-        connect(box, &QCheckBox::stateChanged, this, [this, handler = std::move(handler)] { Guard(handler); });
+        OnCheck(*box, std::move(handler));
     }
     return box;
 }

@@ -10,8 +10,8 @@ namespace {
 /// One millstone: a disc with a rim, in a square of side 1. `top` is the height of its upper face.
 void DrawStone(QPainter& painter, double top, double thickness, double radius, const QColor& light, const QColor& dark)
 {
-    const double flat = radius * 0.46;
-    const QRectF face(0.5 - radius, top - flat, 2 * radius, 2 * flat);
+    const double    flat = radius * 0.46;
+    const QRectF    face(0.5 - radius, top - flat, 2 * radius, 2 * flat);
     QLinearGradient side(face.left(), 0, face.right(), 0);
     side.setColorAt(0, dark);
     side.setColorAt(0.35, light.darker(112));

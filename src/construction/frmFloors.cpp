@@ -61,7 +61,7 @@ frmFloors::frmFloors(ui::AppContext& context)
     optRugs.onSelect = [this](int) { Guard([this] { RugOrCarpetChosen(); }); };
     optCarpet.onSelect = [this](int) { Guard([this] { RugOrCarpetChosen(); }); };
     optAddMethod.onSelect = [this](int method) { Guard([this, method] { MethodChosen(method); }); };
-    connect(useZCheck, &QCheckBox::toggled, this, [this] { Guard([this] { UseZChanged(); }); });
+    OnCheck(*useZCheck, [this] { UseZChanged(); });
 }
 
 QTabWidget* frmFloors::MakeTabs()
@@ -114,7 +114,7 @@ FloorsState frmFloors::State() const
             .carpet = optCarpet.Selected(),
             .direction = optDirection.Selected(),
             .addMethod = optAddMethod.Selected(),
-            .useZ = useZCheck->isChecked(),
+            .useZ = UsesZ(),
             .itemId = ItemId(),
             .area = Area(),
             .custom = CustomHeight(),
@@ -154,11 +154,16 @@ void frmFloors::MethodChosen(int method)
     }
 }
 
+bool frmFloors::UsesZ() const
+{
+    return useZCheck->checkState() == Qt::Checked;
+}
+
 void frmFloors::UseZChanged()
 {
     auto& height = Box("txtCurrentHeight");
-    height.setEnabled(useZCheck->isChecked());
-    ui::SetBackground(height, useZCheck->isChecked() ? ui::BoxBackground::Info : ui::BoxBackground::ButtonFace);
+    height.setEnabled(UsesZ());
+    ui::SetBackground(height, UsesZ() ? ui::BoxBackground::Info : ui::BoxBackground::ButtonFace);
 }
 
 } // namespace qf::construction

@@ -3,8 +3,8 @@
 #include <QCheckBox>
 #include <QTabWidget>
 
-#include "construction/frmConstruction.h"
 #include "construction/floors.h"
+#include "construction/frmConstruction.h"
 
 namespace qf::construction {
 
@@ -24,6 +24,7 @@ class frmFloors final : public ConstructionPanel {
     void RugOrCarpetChosen();
     void ShowChosenTile();
     void MethodChosen(int method);
+    bool UsesZ() const;
     void UseZChanged();
 
     QTabWidget*     tabFloor;

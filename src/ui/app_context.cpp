@@ -11,29 +11,28 @@ namespace qf::ui {
 namespace {
 
 /// The outlet of the running program: commands are typed into the client, boxes are shown to the user.
-/// After the process has ended nothing leaves it any more, however deep the handler that is unwinding.
+/// After a failure or the end of the process nothing leaves it any more, however deep the handler that is
+/// unwinding.
 class ProgramOutlet final : public core::Outlet {
   public:
     explicit ProgramOutlet(AppContext& context) : context_(context) {}
 
     void Send(std::string_view command, bool usePrefix) override
     {
-        if (!context_.environment.process.HasEnded()) {
-            client::SendCommand(context_.environment.platform, *this, context_.settings.CommandPrefix, command,
-                                usePrefix);
-        }
+        context_.environment.process.ThrowIfStopped();
+        client::SendCommand(context_.environment.platform, *this, context_.settings.CommandPrefix, command, usePrefix);
     }
 
     void Show(const core::Message& message) override
     {
-        if (!context_.environment.process.HasEnded()) {
-            context_.environment.boxes.Show(message);
-        }
+        context_.environment.process.ThrowIfStopped();
+        context_.environment.boxes.Show(message);
     }
 
     bool Ask(const core::Message& message) override
     {
-        return !context_.environment.process.HasEnded() && context_.environment.boxes.Ask(message);
+        context_.environment.process.ThrowIfStopped();
+        return context_.environment.boxes.Ask(message);
     }
 
   private:

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <exception>
 #include <functional>
 #include <string>
 #include <string_view>
@@ -71,9 +72,16 @@ class ProcessControl {
   public:
     virtual ~ProcessControl() = default;
 
-    /// Runs a handler. A RuntimeError that it lets through ends the process with a report; once the
-    /// process has ended no handler runs any more.
-    void Run(const std::function<void()>& handler);
+    /// Runs a handler. A RuntimeError that it lets through ends the process with a report, or goes to
+    /// `onError` where that is given; once the process has ended no handler runs any more.
+    ///
+    /// A handler may run within another, as when a box that it fills has a handler of its own. What comes out
+    /// of an inner one is kept for the outermost, and no exception crosses the signal between them.
+    void Run(const std::function<void()>& handler, const std::function<void(const core::RuntimeError&)>& onError = {});
+
+    /// Leaves the running handler by a throw where one within it has failed already, or where the process has
+    /// ended: nothing of the program's effects may follow. Called before each of them.
+    void ThrowIfStopped() const;
 
     /// Ends the process in order.
     void End();
@@ -91,7 +99,11 @@ class ProcessControl {
     virtual void OnForeignException() { throw; }
 
   private:
-    bool ended_ = false;
+    void Report(std::exception_ptr failure, const std::function<void(const core::RuntimeError&)>& onError);
+
+    int                depth_ = 0;
+    std::exception_ptr failure_;
+    bool               ended_ = false;
 };
 
 /// Everything of the outside world that a run of the program stands on.

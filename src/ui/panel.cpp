@@ -133,6 +133,11 @@ void Panel::OnChange(QLineEdit& box, std::function<void()> handler)
     connect(&box, &QLineEdit::textChanged, this, [this, handler = std::move(handler)] { Guard(handler); });
 }
 
+void Panel::OnCheck(QCheckBox& box, std::function<void()> handler)
+{
+    connect(&box, &QCheckBox::stateChanged, this, [this, handler = std::move(handler)] { Guard(handler); });
+}
+
 void Panel::OnFocus(QWidget& control, std::function<void()> handler)
 {
     focus_[&control] = std::move(handler);
@@ -203,14 +208,21 @@ bool Panel::eventFilter(QObject* object, QEvent* event)
         break;
     case QEvent::MouseButtonRelease: {
         const auto* mouse = static_cast<QMouseEvent*>(event);
+        if (std::exchange(doubleClicked_, nullptr) == control) {
+            break;
+        }
         if (mouse->button() == Qt::LeftButton && control->rect().contains(mouse->position().toPoint())) {
             return InvokeClick(*control) && !control->focusPolicy();
         }
         break;
     }
     case QEvent::MouseButtonDblClick:
-        if (static_cast<QMouseEvent*>(event)->button() == Qt::LeftButton && InvokeDoubleClick(*control)) {
-            return true;
+        if (static_cast<QMouseEvent*>(event)->button() == Qt::LeftButton) {
+            // A double click is one click and what follows it: its second release is no click of its own.
+            doubleClicked_ = control;
+            if (InvokeDoubleClick(*control)) {
+                return true;
+            }
         }
         break;
     case QEvent::FocusIn: Invoke(focus_, *control); break;

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QCheckBox>
 #include <QLineEdit>
 #include <QWidget>
 #include <functional>
@@ -70,6 +71,9 @@ class Panel : public QWidget {
     /// Runs at every change of the box's text, by the user or by code.
     void OnChange(QLineEdit& box, std::function<void()> handler);
 
+    /// Runs at every change of the box between clear, ticked and grey, by the user or by code.
+    void OnCheck(QCheckBox& box, std::function<void()> handler);
+
     /// Runs whenever the control gets the keyboard focus.
     void OnFocus(QWidget& control, std::function<void()> handler);
 
@@ -98,6 +102,9 @@ class Panel : public QWidget {
     Handlers              press_;
     Handlers              focus_;
     std::function<void()> afterModal_;
+
+    /// The control whose double click is not released yet.
+    QWidget* doubleClicked_ = nullptr;
 };
 
 } // namespace qf::ui

@@ -1,5 +1,6 @@
 #include "ui/panels.h"
 
+#include <QWindow>
 #include <algorithm>
 #include <utility>
 
@@ -64,18 +65,25 @@ Panel& Panels::ShowModal(std::string_view name, std::function<void()> afterwards
     }
     panel.SetAfterModal(std::move(afterwards));
     panel.setWindowModality(Qt::ApplicationModal);
+    if (auto* owner = Loaded("frmMain"); owner != nullptr && owner != &panel) {
+        // The owner's window stays below, also where it is one that stays on top of others.
+        owner->winId();
+        panel.winId();
+        panel.windowHandle()->setTransientParent(owner->windowHandle());
+    }
     return Show(name);
 }
 
 void Panels::Unload(Panel& panel)
 {
-    if (std::ranges::find(unloading_, &panel) != unloading_.end()) {
+    const auto isPanel = [&](const auto& held) { return held.get() == &panel; };
+    if (std::ranges::find(unloading_, &panel) != unloading_.end() || std::ranges::none_of(loaded_, isPanel)) {
         return;
     }
     unloading_.push_back(&panel);
     panel.Unload();
 
-    const auto found = std::ranges::find_if(loaded_, [&](const auto& held) { return held.get() == &panel; });
+    const auto found = std::ranges::find_if(loaded_, isPanel);
     if (found != loaded_.end()) {
         // The handler that unloads a panel is often one of the panel's own: the window outlives it.
         auto* released = found->release();

@@ -68,15 +68,6 @@ bool IsInFront(const QObject& control)
     return tabs == nullptr || tabs->indexOf(const_cast<QWidget*>(page)) < 0 || tabs->currentWidget() == page;
 }
 
-bool IsReadOnly(const QObject& control)
-{
-    if (const auto* box = qobject_cast<const QLineEdit*>(&control)) {
-        return box->isReadOnly();
-    }
-    const auto* box = qobject_cast<const QPlainTextEdit*>(&control);
-    return box != nullptr && box->isReadOnly();
-}
-
 bool IsUserStep(Verb verb)
 {
     return verb >= Verb::Click && verb <= Verb::Close;
@@ -196,7 +187,7 @@ bool Driver::ActOnControl(const Step& step, const Target& target)
     case Verb::Press: target.panel->InvokePress(*widget); return true;
     case Verb::Type:
         GiveFocus(*widget);
-        if (!alive || (IsReadOnly(*widget) && !step.forced)) {
+        if (!alive) {
             return true;
         }
         return ReplaceText(*widget, ui::Text(words[1]));

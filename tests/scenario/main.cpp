@@ -8,6 +8,7 @@
 
 #include "scenario/event_loop.h"
 #include "scenario/runner.h"
+#include "world/database.h"
 
 namespace fs = std::filesystem;
 
@@ -99,7 +100,9 @@ int Run(int argc, char** argv)
     QApplication::setQuitOnLastWindowClosed(false);
     const qf::scenario::TimerStop timerStop;
 
-    const fs::path       database = fs::path(QCoreApplication::applicationDirPath().toStdString()) / "qf.mdb";
+    // Made anew, since the one beside the programs holds what was loaded into it there.
+    const fs::path database = scratch.Path() / "qf.mdb";
+    qf::world::CreateWorldDatabase(database);
     qf::scenario::Runner runner({scratch.Path(), database}, std::cout, std::cerr);
     for (const auto& file : files) {
         if (print) {
