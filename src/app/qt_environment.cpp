@@ -2,9 +2,11 @@
 
 #include <QApplication>
 #include <QClipboard>
+#include <QCloseEvent>
 #include <QDesktopServices>
 #include <QDir>
 #include <QFileDialog>
+#include <QKeyEvent>
 #include <QMessageBox>
 #include <QProcess>
 #include <QStandardPaths>
@@ -35,9 +37,26 @@ QMessageBox::Icon IconOf(core::MessageStyle style)
     return QMessageBox::NoIcon;
 }
 
-QMessageBox::StandardButton Run(const core::Message& message, QMessageBox::StandardButtons buttons)
+/// A question that is answered by one of its buttons alone: Esc or the frame's close mark would say No for
+/// the user, and No may throw away what was typed.
+class QuestionBox final : public QMessageBox {
+  public:
+    using QMessageBox::QMessageBox;
+
+  protected:
+    void closeEvent(QCloseEvent* event) override { event->ignore(); }
+    void keyPressEvent(QKeyEvent* event) override
+    {
+        if (event->key() == Qt::Key_Escape) {
+            event->accept();
+            return;
+        }
+        QMessageBox::keyPressEvent(event);
+    }
+};
+
+QMessageBox::StandardButton Run(QMessageBox& box, const core::Message& message, QMessageBox::StandardButtons buttons)
 {
-    QMessageBox box(QApplication::activeWindow());
     box.setIcon(IconOf(message.style));
     box.setWindowTitle(ui::Text(message.title ? std::string_view(*message.title) : core::ThisProduct.title));
     box.setTextFormat(Qt::PlainText);
@@ -63,19 +82,22 @@ QString FilterOf(std::string_view filter)
 
 QString HostText(std::string_view programPath)
 {
-    return ui::Text(core::HostPath(programPath).string());
+    const auto host = core::HostPath(programPath).u8string();
+    return QString::fromUtf8(reinterpret_cast<const char*>(host.data()), static_cast<qsizetype>(host.size()));
 }
 
 } // namespace
 
 void DesktopMessageBoxes::Show(const core::Message& message)
 {
-    Run(message, QMessageBox::Ok);
+    QMessageBox box(QApplication::activeWindow());
+    Run(box, message, QMessageBox::Ok);
 }
 
 bool DesktopMessageBoxes::Ask(const core::Message& message)
 {
-    return Run(message, QMessageBox::Yes | QMessageBox::No) == QMessageBox::Yes;
+    QuestionBox box(QApplication::activeWindow());
+    return Run(box, message, QMessageBox::Yes | QMessageBox::No) == QMessageBox::Yes;
 }
 
 std::string DesktopFileDialogs::OpenFile(const ui::FileDialogRequest& request)

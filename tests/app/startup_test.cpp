@@ -1,5 +1,6 @@
 #include <QApplication>
 #include <QLabel>
+#include <QWindow>
 #include <gtest/gtest.h>
 
 #include "app/program_on_stage.h"
@@ -66,6 +67,16 @@ TEST(Startup, TheMainPanelAloneIsLeftLoadedFirst)
     EXPECT_EQ(open.front()->Name(), "frmMain");
     EXPECT_EQ(stage.application->Context().panels.Loaded("frmSplash"), nullptr);
     EXPECT_EQ(stage.application->Context().productTitle, "Dobrin's Quernfield 20250 ");
+}
+
+TEST(ModalPanel, IsOwnedByTheMainPanelSoThatItNeverOpensBelowIt)
+{
+    test::ProgramOnStage stage;
+    ASSERT_TRUE(stage.application->Main());
+    auto& panels = stage.application->Context().panels;
+    auto& about = panels.ShowModal("frmAbout");
+    ASSERT_NE(about.windowHandle(), nullptr);
+    EXPECT_EQ(about.windowHandle()->transientParent(), panels.Touch("frmMain").windowHandle());
 }
 
 TEST(Shutdown, WalksThePanelsFromTheLastToTheSecondAndEnds)
