@@ -204,7 +204,7 @@ void frmMain::Unload()
     if (!isMinimized()) {
         SavePosition();
     }
-    auto&      panels = Context().panels;
+    auto&                    panels = Context().panels;
     std::vector<std::string> open;
     for (const auto* panel : panels.LoadOrder()) {
         open.emplace_back(panel->Name());

@@ -16,7 +16,7 @@ WindowHandle FindClientWindow(ClientPlatform& platform);
 /// `prefix` goes in front of the command unless `usePrefix` is false. `command` is UTF-8 and is typed in
 /// the ANSI code page. Without a client window it shows one message on `boxes` and returns.
 /// Throws RuntimeError 6 before anything is typed where the text is longer than 32,767 characters.
-void SendCommand(ClientPlatform& platform, core::Outlet& boxes, std::string_view prefix,
-                 std::string_view command, bool usePrefix = true);
+void SendCommand(ClientPlatform& platform, core::Outlet& boxes, std::string_view prefix, std::string_view command,
+                 bool usePrefix = true);
 
 } // namespace qf::client

@@ -15,7 +15,7 @@ using WindowHandle = std::uint64_t;
 
 /// An opened process; 0 is none.
 using ProcessHandle = std::uint64_t;
-using ProcessId     = std::uint32_t;
+using ProcessId = std::uint32_t;
 
 /// A top-level window as an enumeration reports it. Both texts are in the ANSI code page.
 struct WindowInfo {
@@ -25,9 +25,9 @@ struct WindowInfo {
 };
 
 namespace message {
-inline constexpr std::uint32_t KeyDown        = 256;
-inline constexpr std::uint32_t KeyUp          = 257;
-inline constexpr std::uint32_t Char           = 258;
+inline constexpr std::uint32_t KeyDown = 256;
+inline constexpr std::uint32_t KeyUp = 257;
+inline constexpr std::uint32_t Char = 258;
 inline constexpr std::uint32_t AssistPosition = 1226;
 } // namespace message
 

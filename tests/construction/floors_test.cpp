@@ -145,7 +145,8 @@ TEST(Floors, EveryBoxMustHoldANumber)
     for (auto AreaTexts::*text : {&AreaTexts::x1, &AreaTexts::x2, &AreaTexts::y1, &AreaTexts::y2}) {
         auto state = FloorState(4, NorthSouth);
         state.area.*text = "";
-        EXPECT_EQ(LinesOf(state), Lines{"box 64 [Dobrin's Quernfield 20250 ] Please fill in a valid set of coordinates"});
+        EXPECT_EQ(LinesOf(state),
+                  Lines{"box 64 [Dobrin's Quernfield 20250 ] Please fill in a valid set of coordinates"});
     }
     auto state = FloorState(4, NorthSouth);
     state.custom = "N/A";
@@ -178,7 +179,8 @@ TEST(Floors, NoAreaCommandForAGenerationThatIsNeither)
 
 TEST(Floors, TableFormAndCommandWordMayDiffer)
 {
-    EXPECT_EQ(LinesOf(FloorState(4, NorthSouth, Generation070), Generation09), Lines{"send tile 05 0d 100 103 100 102 0"});
+    EXPECT_EQ(LinesOf(FloorState(4, NorthSouth, Generation070), Generation09),
+              Lines{"send tile 05 0d 100 103 100 102 0"});
 }
 
 TEST(Floors, DirectAddNeedsADirection)
