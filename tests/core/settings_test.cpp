@@ -9,35 +9,12 @@
 
 #include "core/text.h"
 #include "support/expect_error.h"
+#include "support/memory_store.h"
 
 namespace qf::core {
 namespace {
 
-class MemoryStore : public SettingsStore {
-  public:
-    std::optional<std::string> Find(std::string_view section, std::string_view key) override
-    {
-        asked.emplace_back(key);
-        const auto found = texts_.find(NameOf(section, key));
-        return found == texts_.end() ? std::nullopt : std::optional(found->second);
-    }
-    void Write(std::string_view section, std::string_view key, std::string_view text) override
-    {
-        texts_[NameOf(section, key)] = text;
-    }
-    void Remove(std::string_view section, std::string_view key) override { texts_.erase(NameOf(section, key)); }
-
-    std::size_t Size() const { return texts_.size(); }
-
-    std::vector<std::string> asked;
-
-  private:
-    using Name = std::pair<std::string, std::string>;
-
-    static Name NameOf(std::string_view section, std::string_view key) { return {LowerCase(section), LowerCase(key)}; }
-
-    std::map<Name, std::string> texts_;
-};
+using test::MemoryStore;
 
 TEST(ReadSettings, AbsentKeysGiveTheirDefaults)
 {

@@ -121,12 +121,3 @@ INSTANTIATE_TEST_SUITE_P(Looks, FloorsOnTheDesktop,
 
 } // namespace
 } // namespace qf
-
-int main(int argumentCount, char** arguments)
-{
-    testing::InitGoogleTest(&argumentCount, arguments);
-    qputenv("QT_QPA_PLATFORM", "xcb");
-    QApplication application(argumentCount, arguments);
-    QApplication::setQuitOnLastWindowClosed(false);
-    return RUN_ALL_TESTS();
-}

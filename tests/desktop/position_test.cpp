@@ -108,12 +108,3 @@ TEST_F(PositionOnTheDesktop, IsNotKnownOnceTheClientIsGone)
 
 } // namespace
 } // namespace qf
-
-int main(int argumentCount, char** arguments)
-{
-    testing::InitGoogleTest(&argumentCount, arguments);
-    qputenv("QT_QPA_PLATFORM", "xcb");
-    QApplication application(argumentCount, arguments);
-    QApplication::setQuitOnLastWindowClosed(false);
-    return RUN_ALL_TESTS();
-}

@@ -8,6 +8,7 @@
 
 #include "core/runtime_error.h"
 #include "core/settings.h"
+#include "core/text.h"
 
 namespace qf::test {
 
@@ -17,6 +18,7 @@ class MemoryStore final : public core::SettingsStore {
   public:
     std::optional<std::string> Find(std::string_view section, std::string_view key) override
     {
+        asked.emplace_back(key);
         const auto found = texts_.find(NameOf(section, key));
         return found == texts_.end() ? std::nullopt : std::optional(found->second);
     }
@@ -26,12 +28,16 @@ class MemoryStore final : public core::SettingsStore {
         if (failsAt != 0 && log.size() >= failsAt) {
             throw core::RuntimeError(core::error::PathFileAccess);
         }
-        const auto name = NameOf(section, key);
-        texts_[name] = text;
-        log.push_back(name + "=" + std::string(text));
+        texts_[NameOf(section, key)] = text;
+        log.push_back(std::string(section) + " " + std::string(key) + "=" + std::string(text));
     }
 
     void Remove(std::string_view section, std::string_view key) override { texts_.erase(NameOf(section, key)); }
+
+    /// The keys that were looked for, in order.
+    std::vector<std::string> asked;
+
+    std::size_t Size() const { return texts_.size(); }
 
     std::vector<std::string> log;
     std::size_t              failsAt = 0;
@@ -39,7 +45,7 @@ class MemoryStore final : public core::SettingsStore {
   private:
     static std::string NameOf(std::string_view section, std::string_view key)
     {
-        return std::string(section) + " " + std::string(key);
+        return core::LowerCase(section) + " " + core::LowerCase(key);
     }
 
     std::map<std::string, std::string> texts_;
