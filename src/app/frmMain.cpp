@@ -167,6 +167,7 @@ void frmMain::Load()
 {
     RestorePosition();
     PlaceTitle();
+    Context().tileBackColour = core::White;
     ApplyStayOnTopRule();
 }
 

@@ -6,6 +6,7 @@
 
 #include "construction/chain.h"
 #include "core/number_rules.h"
+#include "core/tile_id.h"
 #include "ui/parts.h"
 
 namespace qf::construction {
@@ -113,13 +114,15 @@ QGroupBox* ConstructionPanel::MakePreviewFrame()
     auto* layout = new QVBoxLayout(frame);
     auto* picture = new ui::PictureSurface(frame);
     picture->setObjectName(QStringLiteral("pctMain"));
+    pctMain_ = picture;
     auto* id = ui::MakeTextBox(frame, "txtItemID", 8);
     id->setToolTip(QStringLiteral("Click to copy ID"));
     id->setReadOnly(true);
     id->setAlignment(Qt::AlignCenter);
-    id->setMaximumWidth(ui::PictureSurface::DefaultWidth);
+    auto* place = ui::MakePicturePlace(frame, *picture);
+    id->setMaximumWidth(place->width());
     OnClick(*id, [this] { CopyItemId(); });
-    layout->addWidget(picture, 0, Qt::AlignCenter);
+    layout->addWidget(place, 0, Qt::AlignCenter);
     layout->addWidget(id, 0, Qt::AlignCenter);
     layout->addStretch(1);
     return frame;
@@ -300,6 +303,18 @@ void ConstructionPanel::HeightChanged()
 void ConstructionPanel::ShowItemId(const std::string& idText)
 {
     Box("txtItemID").setText(ui::Text(idText));
+}
+
+void ConstructionPanel::DrawTile(const std::string& idText)
+{
+    if (!idText.empty()) {
+        Context().DrawStaticTile(core::TileNumber(idText, tableForm_), *pctMain_);
+    }
+}
+
+void ConstructionPanel::DrawTile(std::int32_t number)
+{
+    Context().DrawStaticTile(number, *pctMain_);
 }
 
 std::string ConstructionPanel::ItemId() const

@@ -90,6 +90,11 @@ class ConstructionPanel : public ui::Panel {
     void        ShowItemId(const std::string& idText);
     std::string ItemId() const;
 
+    /// Draws the tile that an ID text of the panel's tables names, where "See Item Pics" is on; an empty
+    /// entry leaves the picture as it is.
+    void DrawTile(const std::string& idText);
+    void DrawTile(std::int32_t number);
+
     std::string CustomHeight() const;
 
   private:
@@ -104,6 +109,7 @@ class ConstructionPanel : public ui::Panel {
     ConstructionTraits     traits_;
     core::ServerGeneration tableForm_;
     ui::OptionArray*       storeys_ = nullptr;
+    ui::PictureSurface*    pctMain_ = nullptr;
 };
 
 } // namespace qf::construction

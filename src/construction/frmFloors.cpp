@@ -60,6 +60,7 @@ frmFloors::frmFloors(ui::AppContext& context)
     optFloorType.onSelect = [this](int) { Guard([this] { TypeChosen(); }); };
     optRugs.onSelect = [this](int) { Guard([this] { RugOrCarpetChosen(); }); };
     optCarpet.onSelect = [this](int) { Guard([this] { RugOrCarpetChosen(); }); };
+    optDirection.onSelect = [this](int) { Guard([this] { DirectionChosen(); }); };
     optAddMethod.onSelect = [this](int method) { Guard([this, method] { MethodChosen(method); }); };
     OnCheck(*useZCheck, [this] { UseZChanged(); });
 }
@@ -140,8 +141,22 @@ void frmFloors::RugOrCarpetChosen()
 
 void frmFloors::ShowChosenTile()
 {
+    const auto id = ChosenTile();
+    ShowItemId(id);
+    DrawTile(id);
+}
+
+void frmFloors::DirectionChosen()
+{
+    if (State().SelectedType() >= 0) {
+        DrawTile(ChosenTile());
+    }
+}
+
+std::string frmFloors::ChosenTile() const
+{
     const auto state = State();
-    ShowItemId(FloorTileId(state.tab, state.direction, state.SelectedType(), state.tableForm));
+    return FloorTileId(state.tab, state.direction, state.SelectedType(), state.tableForm);
 }
 
 void frmFloors::MethodChosen(int method)

@@ -23,9 +23,13 @@ class frmFloors final : public ConstructionPanel {
     void TypeChosen();
     void RugOrCarpetChosen();
     void ShowChosenTile();
-    void MethodChosen(int method);
-    bool UsesZ() const;
-    void UseZChanged();
+    void DirectionChosen();
+
+    /// The ID text of the chosen type on the tab now shown; empty where there is none.
+    std::string ChosenTile() const;
+    void        MethodChosen(int method);
+    bool        UsesZ() const;
+    void        UseZChanged();
 
     QTabWidget*     tabFloor;
     ui::OptionArray optFloorType;

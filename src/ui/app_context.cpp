@@ -4,7 +4,9 @@
 
 #include "client/delivery.h"
 #include "core/number_rules.h"
+#include "gamedata/art.h"
 #include "ui/panel.h"
+#include "ui/picture_surface.h"
 
 namespace qf::ui {
 
@@ -62,11 +64,28 @@ void AppContext::ShowCalibrationNag()
 
 bool AppContext::StayOnTopWanted()
 {
-    if (!panels.Has("frmOptions")) {
-        return settings.StayOnTop;
+    return OptionState("ChkStayOnTop", settings.StayOnTop) == Qt::Checked;
+}
+
+bool AppContext::ItemPicsWanted()
+{
+    return OptionState("chkItemPics", settings.ItemPic) != Qt::Unchecked;
+}
+
+Qt::CheckState AppContext::OptionState(const char* box, bool saved)
+{
+    const auto* found =
+        panels.Has("frmOptions") ? panels.Touch("frmOptions").findChild<QCheckBox*>(QLatin1String(box)) : nullptr;
+    if (found == nullptr) {
+        return saved ? Qt::Checked : Qt::Unchecked;
     }
-    const auto* box = panels.Touch("frmOptions").findChild<QCheckBox*>(QStringLiteral("ChkStayOnTop"));
-    return box != nullptr && box->checkState() == Qt::Checked;
+    return found->checkState();
+}
+
+void AppContext::DrawStaticTile(std::int32_t id, PictureSurface& picture)
+{
+    gamedata::DrawStaticTile(id, picture.Surface(), {ItemPicsWanted(), settings.UOPath, tileBackColour}, fileNumbers);
+    picture.update();
 }
 
 } // namespace qf::ui

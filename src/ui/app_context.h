@@ -1,11 +1,15 @@
 #pragma once
 
+#include <QtCore/qnamespace.h>
 #include <memory>
 
 #include "client/location.h"
+#include "core/file_numbers.h"
 #include "core/generation.h"
 #include "core/outlet.h"
+#include "core/pixel_surface.h"
 #include "core/settings.h"
+#include "gamedata/hues.h"
 #include "ui/environment.h"
 #include "ui/panels.h"
 #include "ui/shared_area.h"
@@ -15,6 +19,15 @@ class Database;
 }
 
 namespace qf::ui {
+
+class PictureSurface;
+
+/// The modes of the item explorer, which outlive its panel.
+struct ExplorerModes {
+    bool hover = false;
+    bool repeatAdd = false;
+    bool tile = false;
+};
 
 /// What all panels share during one run. Made by `Main` and passed by reference; there is no other
 /// shared state.
@@ -33,7 +46,14 @@ class AppContext {
     SharedArea             sharedArea;
     client::PlayerLocation locationResult;
     world::Database*       database = nullptr;
-    Panels                 panels;
+    core::FileNumbers      fileNumbers;
+    gamedata::HueTable     hues;
+    ExplorerModes          explorerModes;
+
+    /// The background of tile pictures; the main panel's load sets it.
+    core::Rgb tileBackColour = 0;
+
+    Panels panels;
 
     /// Where handlers send their effects: commands go through `SendCommand`, boxes to the user.
     core::Outlet& Outlet() { return *outlet_; }
@@ -51,7 +71,18 @@ class AppContext {
     /// invisibly, where it is not loaded.
     bool StayOnTopWanted();
 
+    /// Whether "See Item Pics" is ticked (or grey) on the configuration panel now, saved or not. Loads that
+    /// panel, invisibly, where it is not loaded.
+    bool ItemPicsWanted();
+
+    /// Draws the static tile of an item ID on a picture, where "See Item Pics" is on.
+    /// Throws RuntimeError 6 for a number out of range, 67 where no file number is free.
+    void DrawStaticTile(std::int32_t id, PictureSurface& picture);
+
   private:
+    /// The state of a check box of the configuration panel.
+    Qt::CheckState OptionState(const char* box, bool saved);
+
     std::unique_ptr<core::Outlet> outlet_;
 };
 

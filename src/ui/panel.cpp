@@ -144,6 +144,44 @@ void Panel::OnFocus(QWidget& control, std::function<void()> handler)
     control.installEventFilter(this);
 }
 
+void Panel::OnBlur(QWidget& control, std::function<void()> handler)
+{
+    blur_[&control] = std::move(handler);
+    control.installEventFilter(this);
+}
+
+void Panel::OnChoose(QComboBox& list, std::function<void()> handler)
+{
+    choose_[&list] = std::move(handler);
+    connect(&list, &QComboBox::activated, this, [this, &list] { Invoke(choose_, list); });
+}
+
+void Panel::Choose(QComboBox& list, int row)
+{
+    list.setCurrentIndex(row);
+    Invoke(choose_, list);
+}
+
+void Panel::OnCell(QAbstractItemView& grid, std::function<void()> handler)
+{
+    connect(&grid, &QAbstractItemView::clicked, this, [this, handler = std::move(handler)] { Guard(handler); });
+}
+
+void Panel::OnScroll(QAbstractSlider& bar, std::function<void()> handler)
+{
+    connect(&bar, &QAbstractSlider::valueChanged, this, [this, handler = std::move(handler)] { Guard(handler); });
+}
+
+void Panel::OnMenu(QAction& entry, std::function<void()> handler)
+{
+    connect(&entry, &QAction::triggered, this, [this, handler = std::move(handler)] { Guard(handler); });
+}
+
+void Panel::OnTick(QTimer& timer, std::function<void()> handler)
+{
+    connect(&timer, &QTimer::timeout, this, [this, handler = std::move(handler)] { Guard(handler); });
+}
+
 void Panel::AddPositionControl(const PositionRow& row)
 {
     auto* control = findChild<QWidget*>(Text(row.control));
@@ -226,6 +264,7 @@ bool Panel::eventFilter(QObject* object, QEvent* event)
         }
         break;
     case QEvent::FocusIn: Invoke(focus_, *control); break;
+    case QEvent::FocusOut: Invoke(blur_, *control); break;
     default: break;
     }
     return QWidget::eventFilter(object, event);

@@ -1,7 +1,12 @@
 #pragma once
 
+#include <QAbstractItemView>
+#include <QAbstractSlider>
+#include <QAction>
 #include <QCheckBox>
+#include <QComboBox>
 #include <QLineEdit>
+#include <QTimer>
 #include <QWidget>
 #include <functional>
 #include <map>
@@ -74,8 +79,27 @@ class Panel : public QWidget {
     /// Runs at every change of the box between clear, ticked and grey, by the user or by code.
     void OnCheck(QCheckBox& box, std::function<void()> handler);
 
-    /// Runs whenever the control gets the keyboard focus.
+    /// Runs whenever the control gets the keyboard focus, and when it loses it.
     void OnFocus(QWidget& control, std::function<void()> handler);
+    void OnBlur(QWidget& control, std::function<void()> handler);
+
+    /// Runs when the user picks a row of a drop-down list, also the one that is shown already.
+    void OnChoose(QComboBox& list, std::function<void()> handler);
+
+    /// Selects a row for the user, which runs the same handler.
+    void Choose(QComboBox& list, int row);
+
+    /// Runs when a cell of a grid is clicked; the cell is the current one then.
+    void OnCell(QAbstractItemView& grid, std::function<void()> handler);
+
+    /// Runs at every change of a bar's value, by the user or by code.
+    void OnScroll(QAbstractSlider& bar, std::function<void()> handler);
+
+    /// Runs when a menu entry is chosen; a checkable one has its new state then.
+    void OnMenu(QAction& entry, std::function<void()> handler);
+
+    /// Runs at each tick.
+    void OnTick(QTimer& timer, std::function<void()> handler);
 
     /// Makes a control fill boxes from the player's place; the controls named by the row are there already.
     void AddPositionControl(const PositionRow& row);
@@ -101,6 +125,8 @@ class Panel : public QWidget {
     Handlers              doubleClick_;
     Handlers              press_;
     Handlers              focus_;
+    Handlers              blur_;
+    Handlers              choose_;
     std::function<void()> afterModal_;
 
     /// The control whose double click is not released yet.

@@ -1,52 +1,76 @@
 #include "ui/picture_surface.h"
 
+#include <QFrame>
 #include <QPainter>
+#include <QVBoxLayout>
 
 namespace qf::ui {
 
-PictureSurface::PictureSurface(QWidget* parent)
-    : QWidget(parent), image_(DefaultWidth, DefaultHeight, QImage::Format_RGB32)
-{
-    image_.fill(backColour_);
-    setFixedSize(image_.size());
-}
+namespace {
 
-void PictureSurface::SetBackColour(const QColor& colour)
+/// The surface's pixels seen as an image, not copied.
+QImage View(const core::PixelSurface& surface)
 {
-    backColour_ = colour;
-    image_.fill(colour);
-    update();
-}
-
-void PictureSurface::SetSurfaceSize(int width, int height)
-{
-    if (image_.size() == QSize(width, height)) {
-        return;
+    if (surface.Pixels().empty()) {
+        return {};
     }
-    QImage resized(width, height, QImage::Format_RGB32);
-    resized.fill(backColour_);
-    QPainter(&resized).drawImage(0, 0, image_);
-    image_ = resized;
-    setFixedSize(image_.size());
-    update();
+    return {reinterpret_cast<const uchar*>(surface.Pixels().data()), surface.Width(), surface.Height(),
+            static_cast<qsizetype>(surface.Width()) * static_cast<qsizetype>(sizeof(std::uint32_t)),
+            QImage::Format_RGB32};
 }
 
-void PictureSurface::Plot(int x, int y, QRgb colour)
+} // namespace
+
+void PictureSurface::Pixels::Refresh()
 {
-    if (image_.valid(x, y)) {
-        image_.setPixel(x, y, colour);
-        update();
-    }
+    owner_.repaint();
+}
+
+void PictureSurface::Pixels::Resized()
+{
+    owner_.setFixedSize(Width(), Height());
+    owner_.update();
+}
+
+PictureSurface::PictureSurface(QWidget* parent) : QWidget(parent), surface_(*this)
+{
+    setFixedSize(surface_.Width(), surface_.Height());
+}
+
+QImage PictureSurface::Image() const
+{
+    return View(surface_);
 }
 
 QSize PictureSurface::sizeHint() const
 {
-    return image_.size();
+    return {surface_.Width(), surface_.Height()};
 }
 
 void PictureSurface::paintEvent(QPaintEvent*)
 {
-    QPainter(this).drawImage(0, 0, image_);
+    QPainter(this).drawImage(0, 0, Image());
+}
+
+QWidget* MakePicturePlace(QWidget* parent, PictureSurface& picture)
+{
+    auto* place = new QFrame(parent);
+    place->setFrameStyle(QFrame::StyledPanel | QFrame::Sunken);
+    place->setAutoFillBackground(true);
+    auto palette = place->palette();
+    palette.setColor(place->backgroundRole(), Qt::white);
+    place->setPalette(palette);
+    auto* layout = new QVBoxLayout(place);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->addWidget(&picture, 0, Qt::AlignTop | Qt::AlignLeft);
+    const int frame = 2 * place->frameWidth();
+    place->setFixedSize(core::PixelSurface::DefaultWidth + frame, core::PixelSurface::DefaultHeight + frame);
+    return place;
+}
+
+QImage ToImage(const core::PixelSurface& surface)
+{
+    return View(surface).copy();
 }
 
 } // namespace qf::ui

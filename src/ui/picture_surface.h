@@ -3,26 +3,20 @@
 #include <QImage>
 #include <QWidget>
 
+#include "core/pixel_surface.h"
+
 namespace qf::ui {
 
-/// A picture that tiles are drawn on: plain pixels, no scaling. A new one is 121 by 173 pixels, white.
+/// A picture on a panel: it shows the pixels of a surface that tiles are drawn on, as large as that surface.
 class PictureSurface : public QWidget {
   public:
-    static constexpr int DefaultWidth = 121;
-    static constexpr int DefaultHeight = 173;
-
     explicit PictureSurface(QWidget* parent = nullptr);
 
-    const QImage& Image() const { return image_; }
+    /// What is drawn on. Shown by `Refresh` at once, otherwise by `update`.
+    core::PixelSurface& Surface() { return surface_; }
 
-    /// Sets the background colour, which erases what the surface shows.
-    void SetBackColour(const QColor& colour);
-
-    /// Makes the surface this large, in pixels; what it shows stays at the upper left.
-    void SetSurfaceSize(int width, int height);
-
-    /// Plots one pixel; one that lies outside is left out. Shown at the next repaint.
-    void Plot(int x, int y, QRgb colour);
+    /// The pixels as they are; good until the surface is drawn on or resized.
+    QImage Image() const;
 
     QSize sizeHint() const override;
 
@@ -30,8 +24,25 @@ class PictureSurface : public QWidget {
     void paintEvent(QPaintEvent* event) override;
 
   private:
-    QImage image_;
-    QColor backColour_ = Qt::white;
+    class Pixels final : public core::PixelSurface {
+      public:
+        explicit Pixels(PictureSurface& owner) : owner_(owner) {}
+        void Refresh() override;
+
+      private:
+        void Resized() override;
+
+        PictureSurface& owner_;
+    };
+
+    Pixels surface_;
 };
+
+/// A picture that changes its size, kept at the upper left of a place of the largest size, so that nothing
+/// around it moves. The place is sunken and white.
+QWidget* MakePicturePlace(QWidget* parent, PictureSurface& picture);
+
+/// The pixels of a surface as an image of its own.
+QImage ToImage(const core::PixelSurface& surface);
 
 } // namespace qf::ui
