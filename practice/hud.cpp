@@ -13,6 +13,7 @@ constexpr int  Margin = 10;
 constexpr int  LineHeight = GlyphHeight * 2 + 3;
 constexpr int  StatusHeight = GlyphHeight + 10;
 constexpr int  TypedHeight = LineHeight + 8;
+constexpr int  Gap = 6;
 constexpr Argb BandColour = 0x90101820U;
 constexpr Argb TypedBand = 0xB0182430U;
 constexpr Argb StatusBand = 0xE0101418U;
@@ -41,6 +42,11 @@ std::string_view EndThatFits(std::string_view text, int width)
 
 } // namespace
 
+int HudHeight()
+{
+    return StatusHeight + TypedHeight + Lines * LineHeight + Gap;
+}
+
 void DrawHud(Canvas& canvas, const Session& session, std::string_view typed, bool cutAway)
 {
     const int width = canvas.Width();
@@ -50,7 +56,7 @@ void DrawHud(Canvas& canvas, const Session& session, std::string_view typed, boo
     const auto& entries = session.Entries();
     const int   shown = static_cast<int>(std::min<std::size_t>(entries.size(), Lines));
     if (shown > 0) {
-        const int top = typedTop - shown * LineHeight - 6;
+        const int top = typedTop - shown * LineHeight - Gap;
         canvas.FillRectangle(0, top, width, typedTop - top, BandColour);
         for (int i = 0; i < shown; ++i) {
             const ChatEntry& entry = entries[entries.size() - static_cast<std::size_t>(shown - i)];

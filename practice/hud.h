@@ -8,6 +8,9 @@
 
 namespace qf::practice {
 
+/// The most pixels at the bottom of the canvas that the lines take.
+int HudHeight();
+
 /// Draws the last lines, the line that is being typed and the status line at the bottom of the canvas.
 void DrawHud(Canvas& canvas, const Session& session, std::string_view typed, bool cutAway);
 

@@ -39,7 +39,12 @@ Options ParseOptions(std::span<const char* const> arguments)
             options.help = true;
             continue;
         }
-        if (name != "--log" && name != "--screenshot" && name != "--prefix" && name != "--size") {
+        if (name == "--no-art") {
+            options.noArt = true;
+            continue;
+        }
+        if (name != "--log" && name != "--screenshot" && name != "--prefix" && name != "--size" &&
+            name != "--client-folder") {
             throw UsageError("unknown option \"" + std::string(name) + "\"");
         }
         if (++i == arguments.size()) {
@@ -57,9 +62,14 @@ Options ParseOptions(std::span<const char* const> arguments)
             options.logFile = value;
         } else if (name == "--screenshot") {
             options.screenshotFile = value;
+        } else if (name == "--client-folder") {
+            options.clientFolder = value;
         } else {
             ReadSize(value, options);
         }
+    }
+    if (options.noArt && !options.clientFolder.empty()) {
+        throw UsageError("--client-folder and --no-art exclude each other");
     }
     return options;
 }
@@ -69,11 +79,14 @@ std::string UsageText()
     return "Usage: quernfield-practice [OPTION]...\n"
            "A window that stands in for the game client: it takes typed command lines and shows what they build.\n"
            "\n"
-           "  --log FILE         append each line received to FILE\n"
-           "  --prefix TEXT      what a command begins with (default: ')\n"
-           "  --screenshot FILE  write the view to FILE (BMP) on F12 and on exit\n"
-           "  --size WxH         size of the window (default: 1024x768)\n"
-           "  --help             show this text\n"
+           "  --client-folder DIR  draw with the art.mul and artidx.mul of DIR\n"
+           "                       (default: PracticeArt beside the program, where it is there)\n"
+           "  --no-art             draw painted blocks in place of art\n"
+           "  --log FILE           append each line received to FILE\n"
+           "  --prefix TEXT        what a command begins with (default: ')\n"
+           "  --screenshot FILE    write the view to FILE (BMP) on F12 and on exit\n"
+           "  --size WxH           size of the window (default: 1024x768)\n"
+           "  --help               show this text\n"
            "\n"
            "Mouse wheel: zoom. Middle button or arrow keys: scroll. Home: back to the player.\n"
            "F2: hide what lies above the player. Escape: give up a command that waits for a click.\n";

@@ -11,6 +11,8 @@ struct Options {
     std::string logFile;        ///< empty: no log
     std::string screenshotFile; ///< empty: no picture
     std::string prefix = "'";
+    std::string clientFolder; ///< whose art is drawn; empty: the practice art beside the program, if it is there
+    bool        noArt = false;
     int         width = 1024; ///< of the window, in pixels
     int         height = 768;
     bool        help = false;

@@ -26,11 +26,30 @@ std::filesystem::path PathOf(const std::string& text)
     return {std::u8string(text.begin(), text.end())};
 }
 
+/// The art that the options ask for; null where tiles are to be painted. Throws std::runtime_error.
+std::unique_ptr<TileArt> OpenArt(const Options& options)
+{
+    if (options.noArt) {
+        return nullptr;
+    }
+    if (!options.clientFolder.empty()) {
+        auto art = TileArt::Open(options.clientFolder);
+        if (!art) {
+            throw std::runtime_error("\"" + options.clientFolder + "\" does not hold art.mul and artidx.mul");
+        }
+        return art;
+    }
+    const std::unique_ptr<char, decltype(&SDL_free)> programFolder(SDL_GetBasePath(), &SDL_free);
+    return programFolder ? TileArt::Open(std::string(programFolder.get()) + "PracticeArt") : nullptr;
+}
+
 } // namespace
 
 PracticeClient::PracticeClient(const Options& options)
-    : options_(options), session_(options.prefix), canvas_(options.width, options.height)
+    : options_(options), session_(options.prefix), scene_(OpenArt(options)), canvas_(options.width, options.height)
 {
+    camera_.shape = scene_.Shape();
+    camera_.covered = HudHeight();
     if (!options_.logFile.empty()) {
         log_.open(PathOf(options_.logFile), std::ios::binary | std::ios::app);
         if (!log_) {

@@ -11,6 +11,9 @@ struct ScreenPoint {
     int y = 0;
 };
 
+/// A cell twice as wide as high, or one as high as wide, which is the shape of the game's own art.
+enum class CellShape { Flat, Square };
+
 /// How large the world is drawn: half a cell's width and height and one height unit, in pixels.
 struct Scale {
     int    halfWidth = 22;
@@ -18,11 +21,11 @@ struct Scale {
     double unit = 4.0;
 
     /// The scale of one of the zoom steps; both halves are whole so that neighbouring cells meet exactly.
-    static Scale OfStep(int step)
+    static Scale OfStep(int step, CellShape shape)
     {
         constexpr int HalfWidths[] = {6, 10, 16, 22, 32, 44, 66};
         const int     half = HalfWidths[step];
-        return {half, half / 2, 4.0 * half / 22.0};
+        return {half, shape == CellShape::Square ? half : half / 2, 4.0 * half / 22.0};
     }
     static constexpr int Steps = 7;
     static constexpr int NormalStep = 3;

@@ -16,8 +16,10 @@ constexpr Argb MarkColour = 0xE0FFE070U;
 
 /// How far a sprite reaches out of its cell: sideways in half widths, upwards in height units,
 /// downwards in half heights.
-constexpr int ReachAcross = 3;
-constexpr int ReachUp = 38;
+constexpr int PaintedAcross = 3;
+constexpr int PaintedUp = 38;
+constexpr int ArtAcross = 7;
+constexpr int ArtUp = 100;
 constexpr int ReachDown = 4;
 
 /// What stands this far above the player's feet is over the head.
@@ -31,12 +33,13 @@ struct Range {
     int lastDown = 0;
 };
 
-Range VisibleRange(const Projection& projection, int width, int height, int lowestZ, int highestZ)
+Range VisibleRange(const Projection& projection, int width, int height, int lowestZ, int highestZ,
+                   int reach = PaintedAcross)
 {
     const Scale& scale = projection.scale;
     const auto   cells = [](double pixels, int size) { return static_cast<int>(std::floor(pixels / size)); };
-    return {cells(-projection.originX, scale.halfWidth) - ReachAcross,
-            cells(width - projection.originX, scale.halfWidth) + ReachAcross,
+    return {cells(-projection.originX, scale.halfWidth) - reach,
+            cells(width - projection.originX, scale.halfWidth) + reach,
             cells(-projection.originY + lowestZ * scale.unit, scale.halfHeight) - ReachDown,
             cells(height - projection.originY + highestZ * scale.unit, scale.halfHeight) + 1};
 }
@@ -52,7 +55,7 @@ void Camera::LookAt(const Position& place)
 
 void Camera::Scroll(int pixelsX, int pixelsY)
 {
-    const Scale  scale = Scale::OfStep(zoom);
+    const Scale  scale = Scale::OfStep(zoom, shape);
     const double across = static_cast<double>(pixelsX) / scale.halfWidth / 2.0;
     const double down = static_cast<double>(pixelsY) / scale.halfHeight / 2.0;
     centreX = std::clamp(centreX + down + across, 0.0, static_cast<double>(MapWidth));
@@ -62,7 +65,7 @@ void Camera::Scroll(int pixelsX, int pixelsY)
 void Camera::Zoom(int steps, const ScreenPoint& fixed, int width, int height)
 {
     const int offX = fixed.x - width / 2;
-    const int offY = fixed.y - height / 2;
+    const int offY = fixed.y - MiddleOf(height);
     Scroll(offX, offY);
     zoom = std::clamp(zoom + steps, 0, Scale::Steps - 1);
     Scroll(-offX, -offY);
@@ -70,9 +73,10 @@ void Camera::Zoom(int steps, const ScreenPoint& fixed, int width, int height)
 
 Projection Camera::Project(int width, int height) const
 {
-    const Scale scale = Scale::OfStep(zoom);
+    const Scale scale = Scale::OfStep(zoom, shape);
     return {scale, width / 2 - static_cast<int>(std::lround((centreX - centreY) * scale.halfWidth)),
-            height / 2 - static_cast<int>(std::lround((centreX + centreY) * scale.halfHeight - centreZ * scale.unit))};
+            MiddleOf(height) -
+                static_cast<int>(std::lround((centreX + centreY) * scale.halfHeight - centreZ * scale.unit))};
 }
 
 void Scene::Gather(int width, int height, const Session& session, const Camera& camera)
@@ -80,7 +84,9 @@ void Scene::Gather(int width, int height, const Session& session, const Camera& 
     items_.clear();
     sprites_.Trim();
     const Projection projection = camera.Project(width, height);
-    const Range      range = VisibleRange(projection, width, height, LowestZ, HighestZ + ReachUp);
+    const bool       hasArt = Shape() == CellShape::Square;
+    const Range      range = VisibleRange(projection, width, height, LowestZ, HighestZ + (hasArt ? ArtUp : PaintedUp),
+                                     hasArt ? ArtAcross : PaintedAcross);
     const int        ceiling = camera.cutAway ? session.Player().z + HeadRoom : HighestZ + 1;
     const auto       add = [&](const Position& place, const TileSprite& sprite, std::optional<Tile> tile) {
         const ScreenPoint at = projection.Corner(place.x, place.y, place.z);

@@ -1,6 +1,9 @@
 #pragma once
 
+#include <algorithm>
+#include <memory>
 #include <optional>
+#include <utility>
 #include <vector>
 
 #include "practice/canvas.h"
@@ -16,7 +19,11 @@ struct Camera {
     double centreY = Session::Start.y + 0.5;
     double centreZ = 0.0;
     int    zoom = Scale::NormalStep;
-    bool   cutAway = false; ///< nothing is drawn that stands a storey or so above the player's feet
+    int    covered = 0; ///< pixels at the view's bottom behind other things; the centre lies in what is above
+
+    /// That of the scene's pictures.
+    CellShape shape = CellShape::Flat;
+    bool      cutAway = false; ///< nothing is drawn that stands a storey or so above the player's feet
 
     /// Puts the player into the centre.
     void LookAt(const Position& place);
@@ -28,11 +35,21 @@ struct Camera {
     void Zoom(int steps, const ScreenPoint& fixed, int width, int height);
 
     Projection Project(int width, int height) const;
+
+  private:
+    /// The line of pixels of a view on which the centre lies.
+    int MiddleOf(int height) const { return std::max((height - covered) / 2, height / 4); }
 };
 
 /// The view of the world.
 class Scene {
   public:
+    /// Tiles are drawn with the art, where it is given and has them.
+    explicit Scene(std::unique_ptr<TileArt> art = nullptr) : sprites_(std::move(art)) {}
+
+    /// The shape of cells with which a camera looks at this scene.
+    CellShape Shape() const { return sprites_.Shape(); }
+
     void Draw(Canvas& canvas, const Session& session, const Camera& camera, const std::optional<Spot>& pointed);
 
     /// What lies under a pixel of a view of this size: the frontmost tile, or the ground. Nothing off the map.

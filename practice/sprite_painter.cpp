@@ -16,6 +16,7 @@ constexpr double EastLight = 0.66;
 constexpr Argb   ShadowColour = 0x50000000U;
 constexpr double LightDirectionX = -0.55;
 constexpr double LightDirectionY = -0.70;
+constexpr double Edge = 1e-9; // how far off a face a place may be computed that lies on its edge
 
 /// A number from 0 to 1 that belongs to two whole numbers.
 double Grain(int a, int b)
@@ -150,10 +151,13 @@ void SpritePainter::Paint(const Face& face, Argb colour, Pattern pattern)
         const double dy = py - origin.y;
         const double s = (dx * b.y - dy * b.x) / cross;
         const double t = (a.x * dy - a.y * dx) / cross;
-        if (s < 0.0 || s >= 1.0 || t < 0.0 || t >= 1.0 || (face.triangle && s + t >= 1.0)) {
+        // Samples lie right on the edges of square cells; they belong to the face, or faces that meet would
+        // leave a line between them.
+        if (s < -Edge || s > 1.0 + Edge || t < -Edge || t > 1.0 + Edge || (face.triangle && s + t > 1.0 + Edge)) {
             return;
         }
-        const double light = PatternLight(pattern, aStart + s * aLength, bStart + t * bLength);
+        const auto   within = [](double share) { return std::clamp(share, 0.0, 1.0 - Edge); };
+        const double light = PatternLight(pattern, aStart + within(s) * aLength, bStart + within(t) * bLength);
         Put(x, y, Lit(colour | Opaque, face.light * light));
     });
 }

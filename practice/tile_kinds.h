@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <optional>
 
 namespace qf::practice {
 
@@ -16,6 +17,10 @@ enum class Form {
     RoofRisesSouth, RoofRidgeAlongX, RoofFallsSouth, RoofRisesEast, RoofRidgeAlongY, RoofFallsEast,
     Trunk, Canopy, TallCanopy, Palm, Bush, Grass, Flower, Rock, Spike,
     Seat, Table, Bed, Chest, Cupboard, Lamp, Sign, Pile,
+    Barrel, Pot, Trough, Forge, Anvil, Harp, Wheel, Timber, Target, Dummy, Gate, Ankh, Statue, Case, Mark,
+    PictureAlongX, PictureAlongY, TrophyAlongX, TrophyAlongY,
+    Boots, Hat, WideHat, PointedHat, PlumedHat, Cap, Mask, Shirt, Robe, Cloak, Skirt, Trousers, Apron, Sash,
+    Hair, Mohawk, Beard,
     // clang-format on
 };
 
@@ -29,6 +34,9 @@ struct TileLook {
     int           height = 4; ///< in height units
     std::uint32_t colour = 0; ///< 0xRRGGBB
 };
+
+/// The look of a tile number of a known family.
+std::optional<TileLook> KnownLook(std::uint16_t id);
 
 /// The look of a tile number. A number of no known family is a small box of a colour of its own.
 TileLook LookOf(std::uint16_t id);

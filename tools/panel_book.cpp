@@ -1,8 +1,10 @@
 // Pictures of every panel of the program, and where the controls lie on it: `quernfield-panels`. It walks
 // the program's own list of panels, so that a new panel is in the book as soon as it is in the list.
 
+#include <QAbstractSlider>
 #include <QApplication>
 #include <QCheckBox>
+#include <QComboBox>
 #include <QDir>
 #include <QRadioButton>
 #include <QTabWidget>
@@ -22,13 +24,15 @@
 #include "support/quiet_services.h"
 #include "ui/panel.h"
 #include "ui/parts.h"
+#include "ui/picture_surface.h"
 #include "world/database.h"
 
 namespace {
 
 using namespace qf;
 
-/// What is chosen and typed on a panel before its picture is taken: "control" or "control=text" by panel.
+/// What is chosen and typed on a panel before its picture is taken: "control", "control=text" for a box, or
+/// "control=number" for a list's row, a bar's value or a tab, by panel. A picture that takes the focus gets it.
 using Poses = std::map<std::string, std::vector<std::string>>;
 
 Poses ReadPoses(const std::string& file)
@@ -48,11 +52,21 @@ Poses ReadPoses(const std::string& file)
 bool Strike(ui::Panel& panel, const std::string& pose)
 {
     const auto equals = pose.find('=');
+    const auto text = equals == std::string::npos ? std::string() : pose.substr(equals + 1);
+    const int  number = std::atoi(text.c_str());
     auto*      control = panel.findChild<QWidget*>(ui::Text(pose.substr(0, equals)));
     if (auto* box = qobject_cast<QLineEdit*>(control)) {
-        box->setText(ui::Text(equals == std::string::npos ? "" : pose.substr(equals + 1)));
+        box->setText(ui::Text(text));
     } else if (auto* tabs = qobject_cast<QTabWidget*>(control)) {
-        tabs->setCurrentIndex(std::atoi(pose.c_str() + equals + 1));
+        tabs->setCurrentIndex(number);
+    } else if (auto* list = qobject_cast<QComboBox*>(control)) {
+        list->setCurrentIndex(number);
+        Q_EMIT list->activated(number);
+    } else if (auto* bar = qobject_cast<QAbstractSlider*>(control)) {
+        bar->setValue(number);
+    } else if (auto* picture = dynamic_cast<ui::PictureSurface*>(control);
+               picture != nullptr && picture->focusPolicy()) {
+        picture->setFocus(Qt::MouseFocusReason);
     } else if (auto* button = qobject_cast<QAbstractButton*>(control); button != nullptr && button->isCheckable()) {
         button->setChecked(true);
     } else {
@@ -76,7 +90,7 @@ void WriteControls(std::ofstream& out, const ui::Panel& panel)
 
 int Usage()
 {
-    std::cerr << "quernfield-panels [--poses FILE] [--screenshots FOLDER] [--controls FILE]\n";
+    std::cerr << "quernfield-panels [--poses FILE] [--screenshots FOLDER] [--controls FILE] [--client-folder FOLDER]\n";
     return 2;
 }
 
@@ -103,9 +117,19 @@ int main(int argumentCount, char** arguments)
     const auto          folder = std::filesystem::path(ui::Utf8(scratch.path()));
     world::CreateWorldDatabase(folder / "qf.mdb");
 
+    const auto lists = std::filesystem::path(ui::Utf8(QApplication::applicationDirPath())) / "ItemExplorer";
+    if (std::filesystem::is_directory(lists)) {
+        std::filesystem::copy(lists, folder / "ItemExplorer");
+    }
+
     test::MemoryStore store;
     store.Write(core::section::Configuration, "ZarnVer", "1");
     store.Write(core::section::Configuration, "UOPath", "\\nowhere\\");
+    if (const auto client = options.find("--client-folder"); client != options.end()) {
+        const auto path = core::ProgramPath(std::filesystem::absolute(client->second));
+        store.Write(core::section::Configuration, "UOPath", path.ends_with('\\') ? path : path + '\\');
+        store.Write(core::section::Configuration, "ItemPic", "1");
+    }
     client::SimulatedPlatform desktop;
     desktop.SetForeground(desktop.AddWindow("SDL_app", "ClassicUO"));
 

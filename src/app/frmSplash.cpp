@@ -2,6 +2,7 @@
 
 #include <QGuiApplication>
 #include <QLabel>
+#include <QProgressBar>
 #include <QScreen>
 #include <QVBoxLayout>
 
@@ -32,6 +33,14 @@ frmSplash::frmSplash(ui::AppContext& context) : Panel(context, "frmSplash")
     }
     layout->addWidget(ui::MakeLabel(this, "lblWarning", "Opening the world database and the main panel..."), 0,
                       Qt::AlignCenter);
+
+    // For what is loaded later in the run; the start itself does not tell how far it is.
+    auto* bar = new QProgressBar(this);
+    bar->setObjectName(QStringLiteral("barTest"));
+    bar->setRange(0, 100);
+    bar->setValue(0);
+    bar->hide();
+    layout->addWidget(bar);
     setMinimumWidth(380);
 }
 

@@ -7,6 +7,10 @@
 #include "app/frmSplash.h"
 #include "console/frmWipe.h"
 #include "construction/frmFloors.h"
+#include "gamedata/frmClothing.h"
+#include "gamedata/frmDye.h"
+#include "gamedata/frmItemExplorer.h"
+#include "gamedata/frmPicture.h"
 
 namespace qf::app {
 
@@ -20,12 +24,16 @@ std::unique_ptr<ui::Panel> Make(ui::AppContext& context)
 
 // clang-format off
 constexpr std::array panelList{
-    ui::PanelEntry{"frmSplash",  Make<frmSplash>},
-    ui::PanelEntry{"frmMain",    Make<frmMain>},
-    ui::PanelEntry{"frmAbout",   Make<frmAbout>},
-    ui::PanelEntry{"frmOptions", Make<frmOptions>},
-    ui::PanelEntry{"frmFloors",  Make<construction::frmFloors>},
-    ui::PanelEntry{"frmWipe",    Make<console::frmWipe>},
+    ui::PanelEntry{"frmSplash",       Make<frmSplash>},
+    ui::PanelEntry{"frmMain",         Make<frmMain>},
+    ui::PanelEntry{"frmAbout",        Make<frmAbout>},
+    ui::PanelEntry{"frmOptions",      Make<frmOptions>},
+    ui::PanelEntry{"frmFloors",       Make<construction::frmFloors>},
+    ui::PanelEntry{"frmWipe",         Make<console::frmWipe>},
+    ui::PanelEntry{"frmDye",          Make<gamedata::frmDye>},
+    ui::PanelEntry{"frmClothing",     Make<gamedata::frmClothing>},
+    ui::PanelEntry{"frmPicture",      Make<gamedata::frmPicture>},
+    ui::PanelEntry{"frmItemExplorer", Make<gamedata::frmItemExplorer>},
 };
 // clang-format on
 

@@ -51,9 +51,8 @@ void PixelSurface::Paint(const PixelSurface& picture, double x, double y)
     const auto left = std::lround(x);
     const auto top = std::lround(y);
     for (int row = 0; row < picture.height_; ++row) {
-        for (int column = 0; column < picture.width_; ++column) {
-            Plot(left + column, top + row, picture.At(column, row));
-        }
+        const auto* line = picture.pixels_.data() + Area(picture.width_, row);
+        PlotLine(left, top + row, picture.width_, [line](std::int64_t column) { return line[column]; });
     }
 }
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <algorithm>
 #include <cstddef>
 #include <cstdint>
 #include <span>
@@ -40,12 +41,28 @@ class PixelSurface {
         }
     }
 
+    /// Plots `count` pixels along a line from (x, y) on; those that lie outside are left out. `colourOf(i)` gives
+    /// the colour of the i-th, counted from 0.
+    template <typename ColourOf>
+    void PlotLine(std::int64_t x, std::int64_t y, std::int64_t count, ColourOf colourOf)
+    {
+        if (y < 0 || y >= height_) {
+            return;
+        }
+        const auto  first = std::max<std::int64_t>(0, -x);
+        const auto  last = std::min(count, width_ - x);
+        auto* const line = pixels_.data() + y * width_;
+        for (auto i = first; i < last; ++i) {
+            line[x + i] = Opaque | colourOf(i);
+        }
+    }
+
     /// Copies another picture with its upper left corner at (x, y), in pixels rounded to the nearest whole
     /// ones (halves away from 0); what lies outside is cut off.
     void Paint(const PixelSurface& picture, double x, double y);
 
     /// The pixel at a place within the surface.
-    Rgb At(int x, int y) const { return pixels_[static_cast<std::size_t>(y * width_ + x)] & ~Opaque; }
+    Rgb At(int x, int y) const { return pixels_[static_cast<std::size_t>(std::int64_t{y} * width_ + x)] & ~Opaque; }
 
     /// All pixels, row by row, as 0xFFRRGGBB.
     std::span<const std::uint32_t> Pixels() const { return pixels_; }

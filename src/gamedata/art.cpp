@@ -11,76 +11,6 @@ namespace qf::gamedata {
 
 namespace {
 
-constexpr std::int32_t FirstStaticTile = 0x4000;
-constexpr std::int32_t IndexRecordBytes = 12;
-constexpr std::int32_t AbsentTile = -1;
-constexpr std::int32_t LastRunFlag = 0xFFFF;
-constexpr int          MostTileSide = 1024;
-constexpr int          EndlessRun = 0x800;
-
-constexpr int   Margin = 5;
-constexpr float TwipsPerPixel = 15;
-constexpr float MostHeightTwips = 2595;
-constexpr float MostWidthTwips = 1815;
-
-/// How the forms of the one algorithm differ.
-struct Form {
-    bool refreshes = true; ///< the surface is repainted before and within the drawing
-    bool ownSize = false;  ///< the surface takes the tile's bare size, without margin and limit
-    bool allLines = false; ///< the last line is drawn as well
-};
-
-enum class Outcome {
-    Finished,
-    Abandoned, ///< the tile is damaged; whoever opened the files leaves them open
-};
-
-/// Reads little-endian numbers one behind the other, through a window on the source so that a usual tile
-/// takes one read.
-class NumberReader {
-  public:
-    NumberReader(ByteSource& source, std::int64_t offset) : source_(source), next_(offset) {}
-
-    std::int64_t Position() const { return next_; }
-    void         Seek(std::int64_t offset) { next_ = offset; }
-
-    std::int16_t Integer16()
-    {
-        const auto* bytes = Take(2);
-        return static_cast<std::int16_t>(static_cast<std::uint16_t>(Byte(bytes, 0) | Byte(bytes, 1) << 8));
-    }
-
-    std::int32_t Integer32()
-    {
-        const auto* bytes = Take(4);
-        return static_cast<std::int32_t>(Byte(bytes, 0) | Byte(bytes, 1) << 8 | Byte(bytes, 2) << 16 |
-                                         Byte(bytes, 3) << 24);
-    }
-
-  private:
-    static constexpr std::size_t WindowBytes = 16384;
-
-    static std::uint32_t Byte(const std::byte* bytes, int place) { return static_cast<std::uint32_t>(bytes[place]); }
-
-    const std::byte* Take(std::int64_t count)
-    {
-        if (next_ < start_ || next_ + count > end_) {
-            source_.Read(next_, window_);
-            start_ = next_;
-            end_ = start_ + static_cast<std::int64_t>(WindowBytes);
-        }
-        const auto* bytes = window_.data() + (next_ - start_);
-        next_ += count;
-        return bytes;
-    }
-
-    ByteSource&                        source_;
-    std::int64_t                       next_;
-    std::int64_t                       start_ = 0;
-    std::int64_t                       end_ = 0;
-    std::array<std::byte, WindowBytes> window_{};
-};
-
 core::Rgb Colour(int red, int green, int blue)
 {
     constexpr unsigned FieldMask = 31;
@@ -94,6 +24,103 @@ int RoundedQuotient(std::int16_t value, double divisor)
     return static_cast<int>(std::nearbyint(static_cast<double>(value) / divisor));
 }
 
+} // namespace
+
+core::Rgb RoundingColour(std::int16_t pixel)
+{
+    return Colour(RoundedQuotient(pixel, 1024), RoundedQuotient(pixel, 32), pixel);
+}
+
+namespace {
+
+constexpr std::int32_t FirstStaticTile = 0x4000;
+constexpr std::int32_t IndexRecordBytes = 12;
+constexpr std::int32_t AbsentTile = -1;
+constexpr std::int32_t LastRunFlag = 0xFFFF;
+constexpr int          MostTileSide = 1024;
+constexpr int          EndlessRun = 0x800;
+
+constexpr int   Margin = 5;
+constexpr float TwipsPerPixel = 15;
+constexpr float MostHeightTwips = 2595;
+constexpr float MostWidthTwips = 1815;
+
+constexpr int DiamondSide = 44;
+constexpr int DiamondMargin = 3; ///< above it and to its left
+
+/// How the two forms of the one algorithm differ.
+struct Form {
+    bool refreshes = true; ///< the surface is repainted before and within the drawing
+    bool ownSize = false;  ///< the surface takes the tile's bare size, without margin and limit
+};
+
+enum class Outcome {
+    Finished,
+    Abandoned, ///< the tile is damaged; whoever opened the files leaves them open
+};
+
+std::int16_t Number16(const std::byte* bytes)
+{
+    return static_cast<std::int16_t>(static_cast<std::uint16_t>(bytes[0]) | static_cast<std::uint16_t>(bytes[1]) << 8);
+}
+
+std::int32_t Number32(const std::byte* bytes)
+{
+    const auto low = static_cast<std::uint16_t>(Number16(bytes));
+    return static_cast<std::int32_t>(low | static_cast<std::uint32_t>(Number16(bytes + 2)) << 16);
+}
+
+/// Reads little-endian numbers one behind the other, through a window on the source so that a usual tile
+/// takes one read.
+class NumberReader {
+  public:
+    NumberReader(ByteSource& source, std::int64_t offset) : source_(source), next_(offset) {}
+
+    std::int64_t Position() const { return next_; }
+    void         Seek(std::int64_t offset) { next_ = offset; }
+
+    std::int16_t Integer16() { return Number16(Take(2)); }
+    std::int32_t Integer32() { return Number32(Take(4)); }
+
+    /// Hands the next `count` pixels out in as few parts as the window allows: `use(bytes, pixels)`.
+    template <typename Use>
+    void Pixels(std::int64_t count, Use use)
+    {
+        while (count > 0) {
+            ShowAtLeast(2);
+            const auto part = std::min(count, (end_ - next_) / 2);
+            use(Take(part * 2), part);
+            count -= part;
+        }
+    }
+
+  private:
+    static constexpr std::size_t WindowBytes = 8192;
+
+    void ShowAtLeast(std::int64_t count)
+    {
+        if (next_ < start_ || next_ + count > end_) {
+            source_.Read(next_, window_);
+            start_ = next_;
+            end_ = start_ + static_cast<std::int64_t>(WindowBytes);
+        }
+    }
+
+    const std::byte* Take(std::int64_t count)
+    {
+        ShowAtLeast(count);
+        const auto* bytes = window_.data() + (next_ - start_);
+        next_ += count;
+        return bytes;
+    }
+
+    ByteSource&                        source_;
+    std::int64_t                       next_;
+    std::int64_t                       start_ = 0;
+    std::int64_t                       end_ = 0;
+    std::array<std::byte, WindowBytes> window_;
+};
+
 /// The lesser of a side with its margin and a limit, both in twips, as pixels. Throws RuntimeError 6 where the
 /// side with its margin leaves 16 bits.
 int LimitedSide(std::int16_t side, float mostTwips)
@@ -102,8 +129,7 @@ int LimitedSide(std::int16_t side, float mostTwips)
     return static_cast<int>(std::min(twips, mostTwips) / TwipsPerPixel);
 }
 
-template <typename Surface>
-void FitSurface(Surface& surface, std::int16_t width, std::int16_t height, const Form& form)
+void FitSurface(core::PixelSurface& surface, std::int16_t width, std::int16_t height, const Form& form)
 {
     if (form.ownSize) {
         surface.SetSize(width > 0 ? width : surface.Width(), height > 0 ? height : surface.Height());
@@ -113,8 +139,17 @@ void FitSurface(Surface& surface, std::int16_t width, std::int16_t height, const
     surface.SetSize(LimitedSide(width, MostWidthTwips), fittedHeight);
 }
 
-template <typename Surface>
-Outcome DrawRuns(NumberReader& art, Surface& surface, const Form& form)
+/// Plots the next `count` pixels of a tile along a line.
+template <core::Rgb Convert(std::int16_t)>
+void PlotLine(NumberReader& art, core::PixelSurface& surface, std::int64_t x, int y, std::int64_t count)
+{
+    art.Pixels(count, [&](const std::byte* bytes, std::int64_t part) {
+        surface.PlotLine(x, y, part, [&](std::int64_t i) { return Convert(Number16(bytes + 2 * i)); });
+        x += part;
+    });
+}
+
+Outcome DrawRuns(NumberReader& art, core::PixelSurface& surface, const Form& form)
 {
     const auto width = art.Integer16();
     if (width == 0 || width > MostTileSide) {
@@ -128,16 +163,14 @@ Outcome DrawRuns(NumberReader& art, Surface& surface, const Form& form)
     if (height == 0 || height > MostTileSide) {
         return Outcome::Abandoned;
     }
-    const int                                  lines = std::max<int>(height, 0);
-    std::array<std::int16_t, MostTileSide + 1> lineStart{};
-    for (int line = 0; line < lines; ++line) {
+    std::array<std::int16_t, MostTileSide> lineStart;
+    for (int line = 0; line < height; ++line) {
         lineStart[static_cast<std::size_t>(line)] = art.Integer16();
     }
     const auto   dataStart = art.Position();
     std::int64_t x = 0;
     int          y = 0;
-    // The spare entry behind the last line leads back to the start of the data.
-    while (y < (form.allLines ? lines : lines - 1)) {
+    while (y < height - 1) { // the last line of a tile is left undrawn
         const auto offset = art.Integer16();
         const auto run = art.Integer16();
         if (offset + run >= EndlessRun) {
@@ -146,52 +179,47 @@ Outcome DrawRuns(NumberReader& art, Surface& surface, const Form& form)
         if (offset + run == 0) {
             ++y;
             x = 0;
-            art.Seek(dataStart + lineStart[static_cast<std::size_t>(y)] * 2);
+            art.Seek(dataStart + std::int64_t{2} * lineStart[static_cast<std::size_t>(y)]);
             continue;
         }
         x += offset;
-        for (int pixel = 0; pixel < run; ++pixel) {
-            if (x > width) {
-                return Outcome::Abandoned;
-            }
-            surface.Plot(x, y, TruncatingColour(art.Integer16()));
-            ++x;
-            if (x > width) {
-                break;
-            }
+        if (run <= 0) {
+            continue;
         }
+        if (x > width) {
+            return Outcome::Abandoned;
+        }
+        // One column past the tile is still drawn; the rest of a longer run is then read as the next one.
+        const auto drawn = std::min<std::int64_t>(run, width - x + 1);
+        PlotLine<TruncatingColour>(art, surface, x, y, drawn);
+        x += drawn;
     }
     return Outcome::Finished;
 }
 
-template <typename Surface>
-void DrawDiamond(NumberReader& art, Surface& surface)
+/// The lines of a diamond, from top to bottom: `line(y, x, pixels)`.
+template <typename Line>
+void ForEachDiamondLine(Line line)
 {
-    const auto line = [&](int y, int from, int to) {
-        for (int x = from; x <= to; ++x) {
-            surface.Plot(x, y, RoundingColour(art.Integer16()));
-        }
-    };
-    for (int y = 3; y <= 24; ++y) {
-        line(y, 27 - y, y + 22);
-    }
-    for (int y = 25; y <= 46; ++y) {
-        line(y, y - 22, 71 - y);
+    constexpr int middle = DiamondSide / 2;
+    for (int row = 0; row < DiamondSide; ++row) {
+        const int half = std::min(row + 1, DiamondSide - row);
+        line(DiamondMargin + row, DiamondMargin + middle - half, 2 * half);
     }
 }
 
-/// Draws the tile of an index record.
-template <typename Surface>
-Outcome DrawTile(std::int32_t record, Surface& surface, ByteSource& index, ByteSource& art, const Form& form)
+Outcome DrawTile(std::int32_t record, core::PixelSurface& surface, ByteSource& index, ByteSource& art, const Form& form)
 {
-    const auto lookup = NumberReader(index, core::Multiply32(record, IndexRecordBytes)).Integer32();
+    std::array<std::byte, 4> bytes{};
+    index.Read(core::Multiply32(record, IndexRecordBytes), bytes);
+    const auto lookup = Number32(bytes.data());
     if (lookup == AbsentTile) {
         return Outcome::Finished;
     }
     NumberReader reader(art, lookup);
     const auto   flag = reader.Integer32();
     if (flag == 0 || flag > LastRunFlag) {
-        DrawDiamond(reader, surface);
+        ForEachDiamondLine([&](int y, int x, int pixels) { PlotLine<RoundingColour>(reader, surface, x, y, pixels); });
         return Outcome::Finished;
     }
     return DrawRuns(reader, surface, form);
@@ -221,23 +249,71 @@ void DrawFromClientFolder(std::int32_t& id, core::PixelSurface& picture, const T
     FileBytes index(drawing.uoPath + "Artidx.mul", FileBytes::Access::ReadWrite);
     const int artNumber = numbers.Take();
     FileBytes art(drawing.uoPath + "Art.mul", FileBytes::Access::ReadWrite);
-    if (DrawTile(id, picture, index, art, Form{}) == Outcome::Finished) {
+    if (DrawIndexRecord(id, picture, index, art)) {
         numbers.Release(artNumber);
         numbers.Release(indexNumber);
     }
 }
 
+TileImage ClearImage(int width, int height)
+{
+    return {width, height,
+            std::vector<std::uint32_t>(static_cast<std::size_t>(width) * static_cast<std::size_t>(height))};
+}
+
+/// Puts the next `count` pixels of a tile into an image; the line must have room for them.
+void ReadLine(NumberReader& art, TileImage& image, int x, int y, int count)
+{
+    constexpr std::uint32_t opaque = 0xFF000000U;
+    auto*                   next = image.pixels.data() + (y * image.width + x);
+    art.Pixels(count, [&](const std::byte* bytes, std::int64_t part) {
+        for (std::int64_t i = 0; i < part; ++i) {
+            *next++ = opaque | TruncatingColour(Number16(bytes + 2 * i));
+        }
+    });
+}
+
+std::optional<TileImage> ReadRunImage(NumberReader& art)
+{
+    const int width = art.Integer16();
+    const int height = art.Integer16();
+    if (width <= 0 || width > MostTileSide || height <= 0 || height > MostTileSide) {
+        return std::nullopt;
+    }
+    std::array<std::uint16_t, MostTileSide> lineStart;
+    for (int line = 0; line < height; ++line) {
+        lineStart[static_cast<std::size_t>(line)] = static_cast<std::uint16_t>(art.Integer16());
+    }
+    const auto dataStart = art.Position();
+    auto       image = ClearImage(width, height);
+    for (int y = 0; y < height; ++y) {
+        art.Seek(dataStart + std::int64_t{2} * lineStart[static_cast<std::size_t>(y)]);
+        int x = 0;
+        for (;;) {
+            const int offset = art.Integer16();
+            const int run = art.Integer16();
+            if (offset == 0 && run == 0) {
+                break;
+            }
+            if (offset < 0 || run < 0 || x + offset + run > width) {
+                return std::nullopt;
+            }
+            ReadLine(art, image, x + offset, y, run);
+            x += offset + run;
+        }
+    }
+    return image;
+}
+
+TileImage ReadDiamondImage(NumberReader& art)
+{
+    auto image = ClearImage(DiamondSide, DiamondSide);
+    ForEachDiamondLine(
+        [&](int y, int x, int pixels) { ReadLine(art, image, x - DiamondMargin, y - DiamondMargin, pixels); });
+    return image;
+}
+
 } // namespace
-
-core::Rgb TruncatingColour(std::int16_t pixel)
-{
-    return Colour(pixel >> 10, pixel >> 5, pixel);
-}
-
-core::Rgb RoundingColour(std::int16_t pixel)
-{
-    return Colour(RoundedQuotient(pixel, 1024), RoundedQuotient(pixel, 32), pixel);
-}
 
 void DrawStaticTile(std::int32_t& id, core::PixelSurface& picture, const TileDrawing& drawing,
                     core::FileNumbers& numbers)
@@ -257,8 +333,31 @@ void DrawStaticTileFromFiles(std::int32_t id, core::PixelSurface& picture, ByteS
     if (!seeItemPics) {
         return;
     }
+    const auto record = core::Add32(id, FirstStaticTile);
     picture.SetBackColour(background);
-    DrawTile(core::Add32(id, FirstStaticTile), picture, index, art, Form{.refreshes = false, .ownSize = true});
+    DrawTile(record, picture, index, art, Form{.refreshes = false, .ownSize = true});
+}
+
+bool DrawIndexRecord(std::int32_t record, core::PixelSurface& picture, ByteSource& index, ByteSource& art)
+{
+    return DrawTile(record, picture, index, art, Form{}) == Outcome::Finished;
+}
+
+std::optional<TileImage> ReadTileImage(std::int32_t id, ByteSource& index, ByteSource& art)
+{
+    if (id < 0) {
+        return std::nullopt;
+    }
+    std::array<std::byte, 8> bytes{};
+    index.Read((std::int64_t{id} + FirstStaticTile) * IndexRecordBytes, bytes);
+    const auto lookup = Number32(bytes.data());
+    const auto size = Number32(bytes.data() + 4);
+    if (lookup < 0 || size <= 0) {
+        return std::nullopt;
+    }
+    NumberReader reader(art, lookup);
+    const auto   flag = reader.Integer32();
+    return flag == 0 || flag > LastRunFlag ? ReadDiamondImage(reader) : ReadRunImage(reader);
 }
 
 } // namespace qf::gamedata

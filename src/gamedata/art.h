@@ -13,7 +13,11 @@
 namespace qf::gamedata {
 
 /// A 16-bit pixel (1-5-5-5, read as a signed number) as a colour: each field shifted left by 3.
-core::Rgb TruncatingColour(std::int16_t pixel);
+inline core::Rgb TruncatingColour(std::int16_t pixel)
+{
+    const auto bits = static_cast<std::uint16_t>(pixel);
+    return (bits & 0x7C00U) << 9 | (bits & 0x03E0U) << 6 | (bits & 0x001FU) << 3;
+}
 
 /// The same with the red and green fields taken from the quotients rounded to the nearest whole number, ties
 /// to the even one, so that a field grows by one past one half and 31 may wrap to 0.
@@ -49,6 +53,11 @@ void DrawStaticTile2(std::int32_t& id, core::PixelSurface& picture, const TileDr
 void DrawStaticTileFromFiles(std::int32_t id, core::PixelSurface& picture, ByteSource& index, ByteSource& art,
                              bool seeItemPics, core::Rgb background);
 
+/// What `DrawStaticTile` draws once its files are open and the picture is cleared: the tile of an index record.
+/// False where the tile is found damaged in its course.
+/// Throws RuntimeError 6 where a number leaves its range.
+bool DrawIndexRecord(std::int32_t record, core::PixelSurface& picture, ByteSource& index, ByteSource& art);
+
 /// A tile as the game itself shows it: all its lines, and clear (0) where its runs leave pixels out. Pixels are
 /// 0xFFRRGGBB, row by row.
 struct TileImage {
@@ -57,7 +66,8 @@ struct TileImage {
     std::vector<std::uint32_t> pixels;
 };
 
-/// The static tile of an item ID; nothing where the tile is absent, damaged or empty.
+/// The static tile of an item ID; nothing where the tile is absent (its record has no place or no size), damaged
+/// or empty. A diamond is 44 by 44 pixels.
 std::optional<TileImage> ReadTileImage(std::int32_t id, ByteSource& index, ByteSource& art);
 
 } // namespace qf::gamedata

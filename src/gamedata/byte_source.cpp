@@ -1,7 +1,6 @@
 #include "gamedata/byte_source.h"
 
 #include <algorithm>
-#include <cstring>
 
 #include "core/host_path.h"
 
@@ -34,23 +33,36 @@ Overlap FindOverlap(std::int64_t offset, std::size_t length, std::int64_t size)
 
 void MemoryBytes::Read(std::int64_t offset, std::span<std::byte> out)
 {
-    std::fill(out.begin(), out.end(), std::byte{});
     const auto part = FindOverlap(offset, out.size(), static_cast<std::int64_t>(bytes_.size()));
-    if (part.length > 0) {
-        std::memcpy(out.data() + part.place, bytes_.data() + part.from, part.length);
-    }
+    const auto bytes = bytes_.subspan(static_cast<std::size_t>(part.from), part.length);
+    auto       rest = std::fill_n(out.begin(), part.place, std::byte{});
+    rest = std::copy(bytes.begin(), bytes.end(), rest);
+    std::fill(rest, out.end(), std::byte{});
 }
 
 FileBytes::FileBytes(std::string_view programPath, Access access)
 {
-    const auto path = core::HostPath(programPath);
-    const auto read = std::ios::in | std::ios::binary;
-    if (access == Access::ReadWrite && file_.open(path, read | std::ios::out) == nullptr &&
-        !std::filesystem::exists(path)) {
+    Open(core::HostPath(programPath), access);
+}
+
+FileBytes FileBytes::OnHost(const std::filesystem::path& path, Access access)
+{
+    FileBytes file;
+    file.Open(path, access);
+    return file;
+}
+
+void FileBytes::Open(const std::filesystem::path& path, Access access)
+{
+    std::error_code failure;
+    const auto      kind = std::filesystem::status(path, failure).type();
+    const auto      read = std::ios::in | std::ios::binary;
+    if (kind == std::filesystem::file_type::regular) {
+        if (access == Access::ReadOnly || file_.open(path, read | std::ios::out) == nullptr) {
+            file_.open(path, read);
+        }
+    } else if (kind == std::filesystem::file_type::not_found && access == Access::ReadWrite) {
         file_.open(path, read | std::ios::out | std::ios::trunc);
-    }
-    if (!file_.is_open()) {
-        file_.open(path, read);
     }
     if (file_.is_open()) {
         size_ = std::max<std::int64_t>(file_.pubseekoff(0, std::ios::end, std::ios::in), 0);
@@ -64,7 +76,11 @@ void FileBytes::Read(std::int64_t offset, std::span<std::byte> out)
     if (part.length == 0 || file_.pubseekpos(part.from, std::ios::in) != std::streampos(part.from)) {
         return;
     }
-    file_.sgetn(reinterpret_cast<char*>(out.data() + part.place), static_cast<std::streamsize>(part.length));
+    try {
+        file_.sgetn(reinterpret_cast<char*>(out.data() + part.place), static_cast<std::streamsize>(part.length));
+    } catch (const std::ios_base::failure&) {
+        return; // a medium that fails in its course reads as a file that ends there
+    }
 }
 
 } // namespace qf::gamedata

@@ -41,9 +41,16 @@ class FileBytes final : public ByteSource {
     /// The path is in the program's form.
     FileBytes(std::string_view programPath, Access access);
 
+    /// The file at a path of the system, for one that is opened again and again.
+    static FileBytes OnHost(const std::filesystem::path& path, Access access);
+
     void Read(std::int64_t offset, std::span<std::byte> out) override;
 
   private:
+    FileBytes() = default;
+
+    void Open(const std::filesystem::path& path, Access access);
+
     std::filebuf file_;
     std::int64_t size_ = 0;
 };

@@ -5,7 +5,6 @@
 
 #include "core/host_path.h"
 #include "gamedata/art.h"
-#include "gamedata/byte_source.h"
 
 namespace qf::gamedata {
 
@@ -51,6 +50,16 @@ core::Rgb ToRgb(std::int32_t hueColour)
     return (value & 0xFF) << 16 | (value & 0xFF00) | (value >> 16 & 0xFF);
 }
 
+void ReadHueGroup(ByteSource& file, int number, HueGroup& group)
+{
+    std::array<std::byte, BlockBytes> block{};
+    file.Read(static_cast<std::int64_t>(BlockBytes) * number, block);
+    std::copy_n(block.begin(), HeaderBytes, group.header.begin());
+    for (std::size_t e = 0; e < HueGroup::Entries; ++e) {
+        ReadEntry(std::span(block).subspan(HeaderBytes + e * EntryBytes, EntryBytes), group.entries[e]);
+    }
+}
+
 void LoadHueData(std::string_view uoPath, HueTable& table, core::FileNumbers& numbers, const HueProgress& progress)
 {
     table.loaded = false;
@@ -64,13 +73,7 @@ void LoadHueData(std::string_view uoPath, HueTable& table, core::FileNumbers& nu
     progress.begin();
     for (int g = 0; g < HueTable::Groups; ++g) {
         progress.group(g);
-        std::array<std::byte, BlockBytes> block{};
-        file.Read(static_cast<std::int64_t>(BlockBytes) * g, block);
-        auto& group = table.groups[static_cast<std::size_t>(g)];
-        std::copy_n(block.begin(), HeaderBytes, group.header.begin());
-        for (std::size_t e = 0; e < HueGroup::Entries; ++e) {
-            ReadEntry(std::span(block).subspan(HeaderBytes + e * EntryBytes, EntryBytes), group.entries[e]);
-        }
+        ReadHueGroup(file, g, table.groups[static_cast<std::size_t>(g)]);
     }
     numbers.Release(number);
     table.loaded = true;

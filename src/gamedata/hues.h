@@ -9,6 +9,7 @@
 
 #include "core/file_numbers.h"
 #include "core/pixel_surface.h"
+#include "gamedata/byte_source.h"
 
 namespace qf::gamedata {
 
@@ -46,6 +47,9 @@ struct HueProgress {
     std::function<void()>          begin;
     std::function<void(int group)> group;
 };
+
+/// Reads one group of the file's 374, counted from 0: a block of 708 bytes.
+void ReadHueGroup(ByteSource& file, int number, HueGroup& group);
 
 /// Reads the client folder's `hues.mul`: 374 blocks of 708 bytes, each a header of 4 bytes and eight entries
 /// of 88 bytes (32 colours, table start and end with the high byte first, a name of 20 bytes). What is missing

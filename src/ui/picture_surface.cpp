@@ -32,7 +32,7 @@ void PictureSurface::Pixels::Resized()
     owner_.update();
 }
 
-PictureSurface::PictureSurface(QWidget* parent) : QWidget(parent), surface_(*this)
+PictureSurface::PictureSurface(QWidget* parent, QSize size) : QWidget(parent), surface_(*this, size)
 {
     setFixedSize(surface_.Width(), surface_.Height());
 }

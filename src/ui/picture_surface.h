@@ -10,7 +10,8 @@ namespace qf::ui {
 /// A picture on a panel: it shows the pixels of a surface that tiles are drawn on, as large as that surface.
 class PictureSurface : public QWidget {
   public:
-    explicit PictureSurface(QWidget* parent = nullptr);
+    explicit PictureSurface(QWidget* parent = nullptr,
+                            QSize    size = {core::PixelSurface::DefaultWidth, core::PixelSurface::DefaultHeight});
 
     /// What is drawn on. Shown by `Refresh` at once, otherwise by `update`.
     core::PixelSurface& Surface() { return surface_; }
@@ -26,7 +27,7 @@ class PictureSurface : public QWidget {
   private:
     class Pixels final : public core::PixelSurface {
       public:
-        explicit Pixels(PictureSurface& owner) : owner_(owner) {}
+        Pixels(PictureSurface& owner, QSize size) : PixelSurface(size.width(), size.height()), owner_(owner) {}
         void Refresh() override;
 
       private:

@@ -36,6 +36,17 @@ TEST(PracticeOptions, AreRead)
     EXPECT_TRUE(options.help);
 }
 
+TEST(PracticeOptions, ChooseTheArt)
+{
+    EXPECT_EQ(Parse({}).clientFolder, "");
+    EXPECT_FALSE(Parse({}).noArt);
+    EXPECT_EQ(Parse({"--client-folder", "/games/client"}).clientFolder, "/games/client");
+    EXPECT_TRUE(Parse({"--no-art"}).noArt);
+    EXPECT_THROW(Parse({"--no-art", "--client-folder", "x"}), UsageError);
+    EXPECT_NE(UsageText().find("--client-folder DIR"), std::string::npos);
+    EXPECT_NE(UsageText().find("--no-art"), std::string::npos);
+}
+
 TEST(PracticeOptions, RefuseWhatTheyDoNotKnow)
 {
     const std::vector<std::vector<const char*>> faults{
@@ -43,6 +54,8 @@ TEST(PracticeOptions, RefuseWhatTheyDoNotKnow)
         {"file"},
         {"--log"},
         {"--log", ""},
+        {"--client-folder"},
+        {"--client-folder", ""},
         {"--size", "1024"},
         {"--size", "x768"},
         {"--size", "1x1"},

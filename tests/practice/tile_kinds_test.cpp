@@ -46,6 +46,15 @@ TEST(PracticeTileKinds, KnowTheFamilies)
         {0x1797, TileKind::Water,     Form::WaterSurface},
         {0x17AC, TileKind::Water,     Form::WaterSurface},
         {0x0B7D, TileKind::Furniture, Form::Table},
+        {0x0E77, TileKind::Furniture, Form::Barrel},
+        {0x0B41, TileKind::Furniture, Form::Trough},
+        {0x0B40, TileKind::Furniture, Form::Table},
+        {0x0C1F, TileKind::Furniture, Form::PictureAlongX},
+        {0x0C20, TileKind::Furniture, Form::Chest},
+        {0x1F03, TileKind::Other,     Form::Robe},
+        {0x203C, TileKind::Other,     Form::Hair},
+        {0x0002, TileKind::Furniture, Form::Ankh},
+        {0x9ADF, TileKind::Wall,      Form::DoorAlongY},
         {0xFFFF, TileKind::Other,     Form::Chest},
         {0x0000, TileKind::Other,     Form::Chest},
     };
@@ -55,6 +64,16 @@ TEST(PracticeTileKinds, KnowTheFamilies)
         EXPECT_EQ(look.kind, row.kind) << std::hex << row.id;
         EXPECT_EQ(look.form, row.form) << std::hex << row.id;
     }
+}
+
+TEST(PracticeTileKinds, TellKnownNumbersFromOthers)
+{
+    EXPECT_TRUE(KnownLook(0x04A9));
+    EXPECT_TRUE(KnownLook(0x170B));
+    EXPECT_FALSE(KnownLook(0x0000));
+    EXPECT_FALSE(KnownLook(0x0001));
+    EXPECT_FALSE(KnownLook(0xFFFF));
+    EXPECT_EQ(LookOf(0x0001).form, Form::Post);
 }
 
 TEST(PracticeTileKinds, ShortWallsAreLowerThanLongOnes)
