@@ -7,6 +7,8 @@
 #include "app/frmSplash.h"
 #include "console/frmWipe.h"
 #include "construction/frmFloors.h"
+#include "world/frmHouseExtraction.h"
+#include "world/frmHouseTemplates.h"
 
 namespace qf::app {
 
@@ -26,6 +28,8 @@ constexpr std::array panelList{
     ui::PanelEntry{"frmOptions", Make<frmOptions>},
     ui::PanelEntry{"frmFloors",  Make<construction::frmFloors>},
     ui::PanelEntry{"frmWipe",    Make<console::frmWipe>},
+    ui::PanelEntry{"frmHouseExtraction", Make<world::frmHouseExtraction>},
+    ui::PanelEntry{"frmHouseTemplates", Make<world::frmHouseTemplates>},
 };
 // clang-format on
 
