@@ -32,7 +32,8 @@ namespace {
 using namespace qf;
 
 /// What is chosen and typed on a panel before its picture is taken: "control", "control=text" for a box, or
-/// "control=number" for a list's row, a bar's value or a tab, by panel. A picture that takes the focus gets it.
+/// "control=number" for a list's row, a bar's value or a tab, by panel, and ">text" for a box that this brings up.
+/// A picture that takes the focus gets it.
 using Poses = std::map<std::string, std::vector<std::string>>;
 
 Poses ReadPoses(const std::string& file)
@@ -47,6 +48,34 @@ Poses ReadPoses(const std::string& file)
         }
     }
     return poses;
+}
+
+/// Puts a small house into the world.
+void Furnish(world::Database& database)
+{
+    constexpr int Width = 8;
+    constexpr int Height = 6;
+    int           serial = 0x40000000;
+    const auto    add = [&](const std::string& name, int id, int type, int x, int y) {
+        std::string sql = "INSERT INTO tblItem( [Serial], [Name], [X], [Y], [Z], [Container], [World], [ID], [iType], ";
+        sql += "[InstanceID] ) VALUES( " + std::to_string(++serial) + ", '" + name + "'";
+        for (const int number : {1000 + x, 1000 + y, 0, -1, 0, id, type, 0}) {
+            sql += ", " + std::to_string(number);
+        }
+        database.Execute(sql + " );");
+    };
+    add("metal door", 0x675, 12, 3, Height - 1);
+    add("wooden chest", 0xE42, 1, 1, 1);
+    add("wooden chair", 0xB57, 0, 4, 2);
+    add("oak table", 0xB90, 0, 5, 2);
+    add("bread loaf", 0x103B, 14, 5, 2);
+    add("ruined bookcase", 0xC14, 0, 6, 1);
+    add("fire field", 0x398C, 85, 7, 5);
+    for (int y = 0; y < Height; ++y) {
+        for (int x = 0; x < Width; ++x) {
+            add("wooden boards", 0x4A9, 0, x, y);
+        }
+    }
 }
 
 bool Strike(ui::Panel& panel, const std::string& pose)
@@ -116,6 +145,8 @@ int main(int argumentCount, char** arguments)
     const QTemporaryDir scratch;
     const auto          folder = std::filesystem::path(ui::Utf8(scratch.path()));
     world::CreateWorldDatabase(folder / "qf.mdb");
+    std::filesystem::copy(std::filesystem::path(ui::Utf8(QApplication::applicationDirPath())) / "Templates",
+                          folder / "Templates");
 
     const auto lists = std::filesystem::path(ui::Utf8(QApplication::applicationDirPath())) / "ItemExplorer";
     if (std::filesystem::is_directory(lists)) {
@@ -143,6 +174,7 @@ int main(int argumentCount, char** arguments)
         return 1;
     }
 
+    Furnish(*run.Context().database);
     const auto    poses = ReadPoses(options["--poses"]);
     const auto    target = ui::Text(options["--screenshots"]);
     std::ofstream controls;
@@ -154,7 +186,9 @@ int main(int argumentCount, char** arguments)
         auto& panel = run.Context().panels.Show(entry.name);
         if (const auto found = poses.find(std::string(entry.name)); found != poses.end()) {
             for (const auto& pose : found->second) {
-                if (!Strike(panel, pose)) {
+                if (pose.starts_with('>')) {
+                    complete = std::erase(services.boxes, pose.substr(1)) == 1 && complete;
+                } else if (!Strike(panel, pose)) {
                     std::cerr << entry.name << ": no control for " << pose << '\n';
                     complete = false;
                 }

@@ -10,6 +10,8 @@
 #include "app/quern_picture.h"
 #include "core/number_rules.h"
 #include "ui/parts.h"
+#include "ui/path_box.h"
+#include "world/world_loader.h"
 
 namespace qf::app {
 
@@ -55,9 +57,9 @@ const frmMain::Tool frmMain::placementTools[] = {
     {"cmdZarnExplorer",   "Item Explorer",                              "frmItemExplorer",   Opens::Beside,    "Items by category, with pictures"},
 };
 const frmMain::Tool frmMain::worldTools[] = {
-    {"cmdHouses",         "House Templates",                            "frmHouseTemplates", Opens::Beside,    "Rebuild a stored building"},
-    {"cmdLoadWorldFiles", "Load World && Start House Extraction",       "",                  Opens::Modal,     "Load the server's world files"},
-    {"cmdGMMenu",         "GM Menu",                                    "frmGMCommands",     Opens::Minimised, "The server's administrative commands"},
+    {"cmdHouses",         "House Templates",                            "frmHouseTemplates",  Opens::Beside,    "Rebuild a stored building"},
+    {"cmdLoadWorldFiles", "Load World && Start House Extraction",       "frmHouseExtraction", Opens::AfterLoad, "Load the server's world files"},
+    {"cmdGMMenu",         "GM Menu",                                    "frmGMCommands",      Opens::Minimised, "The server's administrative commands"},
 };
 const frmMain::Tool frmMain::programTools[] = {
     {"cmdConfig",         "Configuration",                              "frmOptions",        Opens::Modal,     "Paths, prefix, server generation and calibration"},
@@ -112,6 +114,8 @@ void frmMain::Layout()
 
     barLoad = new QProgressBar(lower);
     barLoad->setObjectName(QStringLiteral("barLoad"));
+    barLoad->setValue(0);
+    barLoad->setTextVisible(false);
     auto policy = barLoad->sizePolicy();
     policy.setRetainSizeWhenHidden(true);
     barLoad->setSizePolicy(policy);
@@ -134,6 +138,9 @@ QPushButton* frmMain::MakeToolButton(QWidget* parent, const Tool& tool)
     auto* button = MakeLargeButton(parent, tool.button, tool.caption, tool.hint);
     button->setEnabled(Context().panels.Has(tool.panel));
     OnClick(*button, [this, &tool] { OpenTool(tool); });
+    if (tool.how == Opens::AfterLoad) {
+        cmdLoadWorldFiles = button;
+    }
     return button;
 }
 
@@ -160,7 +167,39 @@ void frmMain::OpenTool(const Tool& tool)
         Context().panels.Show(tool.panel);
         break;
     case Opens::Modal: Context().panels.ShowModal(tool.panel); break;
+    case Opens::AfterLoad: LoadWorldAndOpen(tool); break;
     }
+}
+
+void frmMain::LoadWorldAndOpen(const Tool& tool)
+{
+    auto& context = Context();
+    cmdLoadWorldFiles->setEnabled(false);
+    const auto question = core::QuestionBox("You have already loaded the world, do you wish to reload it?");
+    if (!context.worldLoaded || Outlet().Ask(question)) {
+        context.worldLoaded = false;
+        LoadWorld();
+    }
+    const auto enable = [this] { cmdLoadWorldFiles->setEnabled(true); };
+    if (context.worldLoaded) {
+        context.panels.ShowModal(tool.panel, enable);
+    } else {
+        enable();
+    }
+}
+
+void frmMain::LoadWorld()
+{
+    auto& context = Context();
+    auto& options = context.panels.Touch("frmOptions");
+    auto& path = dynamic_cast<ui::PathBox&>(*options.findChild<QLineEdit*>(QStringLiteral("txtPathZarn")));
+    barLoad->show();
+    setCursor(Qt::WaitCursor);
+    // The load does not yield, so what tells of it is drawn before.
+    repaint();
+    context.worldLoaded = world::LoadWorld(*context.database, Outlet(), context.generation, path.ProgramText());
+    unsetCursor();
+    barLoad->hide();
 }
 
 void frmMain::Load()

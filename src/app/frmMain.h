@@ -18,7 +18,7 @@ class frmMain final : public ui::Panel {
     void Unload() override;
 
   private:
-    enum class Opens { Beside, Minimised, Modal };
+    enum class Opens { Beside, Minimised, Modal, AfterLoad };
 
     /// A button that opens a tool and how it does so.
     struct Tool {
@@ -37,6 +37,8 @@ class frmMain final : public ui::Panel {
     void         Layout();
     QPushButton* MakeToolButton(QWidget* parent, const Tool& tool);
     void         OpenTool(const Tool& tool);
+    void         LoadWorldAndOpen(const Tool& tool);
+    void         LoadWorld();
     QWidget*     MakeFirstSteps();
 
     void RestorePosition();
@@ -45,6 +47,7 @@ class frmMain final : public ui::Panel {
 
     QTabWidget*   SSTab1;
     QLabel*       lblTitle;
+    QPushButton*  cmdLoadWorldFiles = nullptr;
     QProgressBar* barLoad;
 };
 

@@ -11,6 +11,8 @@
 #include "gamedata/frmDye.h"
 #include "gamedata/frmItemExplorer.h"
 #include "gamedata/frmPicture.h"
+#include "world/frmHouseExtraction.h"
+#include "world/frmHouseTemplates.h"
 
 namespace qf::app {
 
@@ -24,16 +26,18 @@ std::unique_ptr<ui::Panel> Make(ui::AppContext& context)
 
 // clang-format off
 constexpr std::array panelList{
-    ui::PanelEntry{"frmSplash",       Make<frmSplash>},
-    ui::PanelEntry{"frmMain",         Make<frmMain>},
-    ui::PanelEntry{"frmAbout",        Make<frmAbout>},
-    ui::PanelEntry{"frmOptions",      Make<frmOptions>},
-    ui::PanelEntry{"frmFloors",       Make<construction::frmFloors>},
-    ui::PanelEntry{"frmWipe",         Make<console::frmWipe>},
-    ui::PanelEntry{"frmDye",          Make<gamedata::frmDye>},
-    ui::PanelEntry{"frmClothing",     Make<gamedata::frmClothing>},
-    ui::PanelEntry{"frmPicture",      Make<gamedata::frmPicture>},
-    ui::PanelEntry{"frmItemExplorer", Make<gamedata::frmItemExplorer>},
+    ui::PanelEntry{"frmSplash",          Make<frmSplash>},
+    ui::PanelEntry{"frmMain",            Make<frmMain>},
+    ui::PanelEntry{"frmAbout",           Make<frmAbout>},
+    ui::PanelEntry{"frmOptions",         Make<frmOptions>},
+    ui::PanelEntry{"frmFloors",          Make<construction::frmFloors>},
+    ui::PanelEntry{"frmWipe",            Make<console::frmWipe>},
+    ui::PanelEntry{"frmHouseExtraction", Make<world::frmHouseExtraction>},
+    ui::PanelEntry{"frmHouseTemplates",  Make<world::frmHouseTemplates>},
+    ui::PanelEntry{"frmDye",             Make<gamedata::frmDye>},
+    ui::PanelEntry{"frmClothing",        Make<gamedata::frmClothing>},
+    ui::PanelEntry{"frmPicture",         Make<gamedata::frmPicture>},
+    ui::PanelEntry{"frmItemExplorer",    Make<gamedata::frmItemExplorer>},
 };
 // clang-format on
 

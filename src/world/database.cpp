@@ -52,7 +52,8 @@ void Require(int code)
 
 int OpenConnection(const fs::path& file, int flags, sqlite3*& connection)
 {
-    const int code = sqlite3_open_v2(Utf8(file).c_str(), &connection, flags, nullptr);
+    // The program has one thread, so a lock in each call is for nothing.
+    const int code = sqlite3_open_v2(Utf8(file).c_str(), &connection, flags | SQLITE_OPEN_NOMUTEX, nullptr);
     if (connection != nullptr) {
         sqlite3_busy_timeout(connection, BusyMilliseconds);
     }

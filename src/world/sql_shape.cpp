@@ -70,7 +70,7 @@ void SqlShape::Parse(std::string_view sql, Mode mode)
     anyWord_ = false;
     behindDelete_ = false;
 
-    for (std::size_t position = 0; position < sql.size();) {
+    for (std::size_t position = mode == Mode::TakeLiterals ? TakeHead(sql) : 0; position < sql.size();) {
         const char character = sql[position];
         if (IsBlank(character)) {
             statement_ += ' ';
@@ -97,6 +97,18 @@ void SqlShape::Parse(std::string_view sql, Mode mode)
 std::string_view SqlShape::Text(const Literal& literal) const
 {
     return std::string_view(texts_).substr(literal.begin, literal.length);
+}
+
+std::size_t SqlShape::TakeHead(std::string_view sql)
+{
+    const auto length = head_.size();
+    if (length == 0 || !sql.starts_with(head_) || (length < sql.size() && IsWordPart(sql[length]))) {
+        return 0;
+    }
+    statement_ = headStatement_;
+    anyWord_ = true;
+    inVaryingPart_ = true;
+    return length;
 }
 
 std::size_t SqlShape::TakeText(std::string_view sql, std::size_t begin)
@@ -201,6 +213,10 @@ std::size_t SqlShape::TakeWord(std::string_view sql, std::size_t begin)
         inVaryingPart_ = false;
     }
     statement_ += core::EqualIgnoringCase(word, WorldAlias) ? WorldColumn : word;
+    if (takesLiterals_ && literals_.empty() && texts_.empty() && core::EqualIgnoringCase(word, "VALUES")) {
+        head_ = sql.substr(0, end);
+        headStatement_ = statement_;
+    }
     return end;
 }
 

@@ -42,6 +42,7 @@ class SqlShape {
     std::string_view            Text(const Literal& literal) const;
 
   private:
+    std::size_t TakeHead(std::string_view sql);
     std::size_t TakeText(std::string_view sql, std::size_t begin);
     std::size_t TakeName(std::string_view sql, std::size_t begin);
     std::size_t TakeNumber(std::string_view sql, std::size_t begin);
@@ -51,10 +52,15 @@ class SqlShape {
     std::string          statement_;
     std::vector<Literal> literals_;
     std::string          texts_;
-    bool                 takesLiterals_ = false;
-    bool                 inVaryingPart_ = false;
-    bool                 anyWord_ = false;
-    bool                 behindDelete_ = false;
+
+    // The last statement up to VALUES, and its translation: a million rows begin with the same words.
+    std::string head_;
+    std::string headStatement_;
+
+    bool takesLiterals_ = false;
+    bool inVaryingPart_ = false;
+    bool anyWord_ = false;
+    bool behindDelete_ = false;
 };
 
 } // namespace qf::world

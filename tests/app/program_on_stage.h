@@ -19,6 +19,7 @@ class ProgramOnStage {
     ProgramOnStage()
     {
         world::CreateWorldDatabase(folder_.Path() / "qf.mdb");
+        folder_.MakeFolder("Templates");
         store.Write(core::section::Configuration, "ZarnVer", "1");
         platform.SetForeground(platform.AddWindow("SDL_app", "ClassicUO"));
         environment_.emplace(ui::Environment{store, platform, services, services, services, services, services,

@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 #include <string>
+#include <vector>
 
 #include "core/runtime_error.h"
 
@@ -94,6 +95,43 @@ TEST(SqlShape, LiteralsThatAreNoValuesStay)
               "SELECT X FROM t WHERE X IN (SELECT 2 FROM u WHERE Y = ? LIMIT 1)|3");
     EXPECT_EQ(Shape("CREATE INDEX i ON t(X) WHERE X > 5"), "CREATE INDEX i ON t(X) WHERE X > 5");
     EXPECT_EQ(Shape("INSERT INTO t VALUES( 0x1F, 12abc, t1 )"), "INSERT INTO t VALUES( 0x1F, 12abc, t1 )");
+}
+
+TEST(SqlShape, AStatementThatBeginsLikeTheOneBeforeIsReadTheSame)
+{
+    const std::vector<std::string> statements = {
+        "INSERT INTO t( [X], WorldNumber ) VALUES( 1, 'a' );",
+        "INSERT INTO t( [X], WorldNumber ) VALUES( 2, \"b\" );",
+        "INSERT INTO t( [X], WorldNumber ) VALUES",
+        "INSERT INTO t( [X], WorldNumber ) VALUES2( 3, 'c' );",
+        "INSERT INTO t( [X], WorldNumber ) SELECT 4, 'd'",
+        "INSERT INTO t( [X], WorldNumber ) VALUES( 5, 'e' ) RETURNING 6",
+        "SELECT 'x' VALUES( 7 )",
+        "SELECT 'y' VALUES( 8 )",
+        "SELECT X FROM t WHERE X = 9 VALUES( 10 )",
+        "SELECT X FROM t WHERE X = 9 VALUES( 11 )",
+        "DELETE VALUES * FROM t",
+        "DELETE VALUES( 12 )",
+        "CREATE VALUES( 13 )",
+        "INSERT INTO t( [X], WorldNumber ) VALUES( 14, 'f' );",
+    };
+    SqlShape shape;
+    for (const auto mode : {SqlShape::Mode::TakeLiterals, SqlShape::Mode::KeepLiterals, SqlShape::Mode::TakeLiterals}) {
+        for (const auto& first : statements) {
+            for (const auto& second : statements) {
+                shape.Parse(first, SqlShape::Mode::TakeLiterals);
+                shape.Parse(second, mode);
+                SqlShape fresh;
+                fresh.Parse(second, mode);
+                EXPECT_EQ(shape.Statement(), fresh.Statement()) << first << " before " << second;
+                ASSERT_EQ(shape.Literals().size(), fresh.Literals().size()) << first << " before " << second;
+                for (std::size_t i = 0; i < fresh.Literals().size(); ++i) {
+                    EXPECT_EQ(shape.Literals()[i].integer, fresh.Literals()[i].integer);
+                    EXPECT_EQ(shape.Text(shape.Literals()[i]), fresh.Text(fresh.Literals()[i]));
+                }
+            }
+        }
+    }
 }
 
 TEST(SqlShape, CommentsAreBlanks)

@@ -1,0 +1,74 @@
+#include "world/template_writer.h"
+
+#include <cerrno>
+#include <filesystem>
+#include <system_error>
+
+#include "core/ansi.h"
+#include "core/host_path.h"
+#include "core/number_rules.h"
+#include "core/runtime_error.h"
+
+namespace qf::world {
+
+namespace fs = std::filesystem;
+
+namespace {
+
+constexpr int         BadFileName = 52;
+constexpr const char* BadFileNameText = "Bad file name or number";
+
+[[noreturn]] void FailFor(std::errc reason)
+{
+    switch (reason) {
+    case std::errc::no_such_file_or_directory:
+    case std::errc::not_a_directory: throw core::RuntimeError(core::error::PathNotFound);
+    case std::errc::filename_too_long:
+    case std::errc::invalid_argument:
+    case std::errc::illegal_byte_sequence: throw core::RuntimeError(BadFileName, BadFileNameText);
+    default: throw core::RuntimeError(core::error::PathFileAccess);
+    }
+}
+
+/// Whatever lies there, a link to nothing included, is not to be written over.
+bool IsTaken(const fs::path& file)
+{
+    std::error_code failure;
+    return fs::exists(fs::symlink_status(file, failure));
+}
+
+} // namespace
+
+TemplateWriter::TemplateWriter(std::string_view programFolder, std::string_view name)
+{
+    if (name.find('\0') != std::string_view::npos) {
+        FailFor(std::errc::invalid_argument);
+    }
+    const auto start = std::string(programFolder) + "\\Templates\\" + std::string(name);
+    path_ = start + ".tmp";
+    auto file = core::HostPath(path_);
+    for (std::int32_t number = 0; IsTaken(file); number = core::Add32(number, 1)) {
+        path_ = start + core::ToText(number) + ".tmp";
+        file = core::HostPath(path_);
+    }
+    errno = 0;
+    stream_.open(file, std::ios::binary);
+    if (!stream_) {
+        FailFor(static_cast<std::errc>(errno));
+    }
+}
+
+void TemplateWriter::WriteLine(std::string_view text)
+{
+    stream_ << core::ToAnsi(text) << "\r\n";
+}
+
+void TemplateWriter::Close()
+{
+    stream_.close();
+    if (!stream_) {
+        FailFor(std::errc::io_error);
+    }
+}
+
+} // namespace qf::world
