@@ -141,6 +141,32 @@ QGroupBox* ConstructionPanel::MakeOptionFrame(std::string_view name, std::string
     return frame;
 }
 
+QWidget* ConstructionPanel::MakeOptionPage(QWidget* parent, ui::OptionArray& options, const OptionPage& page,
+                                           const std::function<std::string_view(int index)>& caption,
+                                           const std::function<void(int index)>&             addPiece)
+{
+    constexpr int GridColumnsEach = 3;
+    auto*         widget = new QWidget(parent);
+    auto*         layout = new QGridLayout(widget);
+    const int     perLine = (page.count + page.columns - 1) / page.columns;
+    layout->setVerticalSpacing(2);
+    for (int place = 0; place < page.count; ++place) {
+        const int index = page.first + place;
+        const int column = place / perLine * GridColumnsEach;
+        layout->addWidget(&options.Add(index, caption(index), widget), place % perLine, column);
+        if (!page.pieceButtons.empty()) {
+            auto* piece = ui::MakeAddButton(widget, ui::MemberName(page.pieceButtons, index), caption(index));
+            OnClick(*piece, [addPiece, index] { addPiece(index); });
+            layout->addWidget(piece, place % perLine, column + 1);
+        }
+    }
+    for (int column = 0; column < page.columns; ++column) {
+        layout->setColumnStretch(column * GridColumnsEach + 2, 1);
+    }
+    layout->setRowStretch(perLine, 1);
+    return widget;
+}
+
 QLayout* ConstructionPanel::MakeBottomRow(std::span<const CommandButton> buttons)
 {
     auto* row = new QHBoxLayout;
@@ -315,6 +341,12 @@ void ConstructionPanel::DrawTile(const std::string& idText)
 void ConstructionPanel::DrawTile(std::int32_t number)
 {
     Context().DrawStaticTile(number, *pctMain_);
+}
+
+void ConstructionPanel::ShowTileNumber(std::int32_t number)
+{
+    ShowItemId(core::HexNumberText(number));
+    DrawTile(number);
 }
 
 std::string ConstructionPanel::ItemId() const

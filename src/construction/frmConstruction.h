@@ -72,6 +72,20 @@ class ConstructionPanel : public ui::Panel {
     QGroupBox* MakeOptionFrame(std::string_view name, std::string_view caption, ui::OptionArray& options,
                                std::initializer_list<std::string_view> captions);
 
+    /// Which members of an option array lie on a page, and in how many columns. `pieceButtons` is the array of
+    /// the small buttons beside them; without a name there are none.
+    struct OptionPage {
+        int              first = 0;
+        int              count = 0;
+        int              columns = 1;
+        std::string_view pieceButtons = {};
+    };
+
+    /// A page of options in columns, each with the button that adds one piece of it.
+    QWidget* MakeOptionPage(QWidget* parent, ui::OptionArray& options, const OptionPage& page,
+                            const std::function<std::string_view(int index)>& caption,
+                            const std::function<void(int index)>&             addPiece);
+
     /// The panel's own buttons, the chain steps whose panels exist, and "Exit".
     QLayout* MakeBottomRow(std::span<const CommandButton> buttons);
 
@@ -94,6 +108,10 @@ class ConstructionPanel : public ui::Panel {
     /// entry leaves the picture as it is.
     void DrawTile(const std::string& idText);
     void DrawTile(std::int32_t number);
+
+    /// Shows a tile by its number: "0x" with upper-case hexadecimal without leading zeros in either
+    /// generation, and its picture.
+    void ShowTileNumber(std::int32_t number);
 
     std::string CustomHeight() const;
 
