@@ -7,6 +7,9 @@
 #include "app/frmSplash.h"
 #include "console/frmWipe.h"
 #include "construction/frmFloors.h"
+#include "construction/frmRoof.h"
+#include "construction/frmStairs.h"
+#include "construction/frmWalls.h"
 
 namespace qf::app {
 
@@ -25,6 +28,9 @@ constexpr std::array panelList{
     ui::PanelEntry{"frmAbout",   Make<frmAbout>},
     ui::PanelEntry{"frmOptions", Make<frmOptions>},
     ui::PanelEntry{"frmFloors",  Make<construction::frmFloors>},
+    ui::PanelEntry{"frmWalls",   Make<construction::frmWalls>},
+    ui::PanelEntry{"frmRoof",    Make<construction::frmRoof>},
+    ui::PanelEntry{"frmStairs",  Make<construction::frmStairs>},
     ui::PanelEntry{"frmWipe",    Make<console::frmWipe>},
 };
 // clang-format on

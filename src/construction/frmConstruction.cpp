@@ -78,16 +78,22 @@ QGroupBox* ConstructionPanel::MakeCoordinateFrame()
     return frame;
 }
 
+QLineEdit& ConstructionPanel::AddBaseHeight(QWidget* frame, QGridLayout& layout)
+{
+    auto* current = ui::MakeTextBox(frame, traits_.heightBox, CoordinateDigits);
+    auto* fetch = ui::MakeButton(frame, "cmdCurrZ", "Current Z", "Takes the height at which you stand");
+    layout.addWidget(ui::MakeLabelFor(current, "", "Current height"), 0, 0);
+    layout.addWidget(current, 0, 1);
+    layout.addWidget(fetch, 0, 2);
+    AddPositionControl({"cmdCurrZ", "", "", traits_.heightBox, ""});
+    return *current;
+}
+
 QGroupBox* ConstructionPanel::MakeHeightFrame(ui::OptionArray& storeys)
 {
     auto* frame = ui::MakeFrame(this, "fraHeight", "Height");
     auto* layout = new QGridLayout(frame);
-    auto* current = ui::MakeTextBox(frame, traits_.heightBox, CoordinateDigits);
-    auto* fetch = ui::MakeButton(frame, "cmdCurrZ", "Current Z", "Takes the height at which you stand");
-    layout->addWidget(ui::MakeLabelFor(current, "", "Current height"), 0, 0);
-    layout->addWidget(current, 0, 1);
-    layout->addWidget(fetch, 0, 2);
-    AddPositionControl({"cmdCurrZ", "", "", traits_.heightBox, ""});
+    auto& current = AddBaseHeight(frame, *layout);
 
     auto* floors = new QHBoxLayout;
     int   index = 0;
@@ -103,7 +109,7 @@ QGroupBox* ConstructionPanel::MakeHeightFrame(ui::OptionArray& storeys)
 
     storeys_ = &storeys;
     storeys.onSelect = [this](int storey) { Guard([this, storey] { ApplyStorey(storey); }); };
-    OnChange(*current, [this] { HeightChanged(); });
+    OnChange(current, [this] { HeightChanged(); });
     OnFocus(*custom, [this] { storeys_->Clear(); });
     return frame;
 }
@@ -324,6 +330,11 @@ void ConstructionPanel::HeightChanged()
     if (custom) {
         Box("txtCustom").setText(ui::Text(*custom));
     }
+}
+
+void ConstructionPanel::EnableFetch(std::string_view button, bool enabled)
+{
+    findChild<QWidget*>(ui::Text(button))->setEnabled(enabled);
 }
 
 void ConstructionPanel::ShowItemId(const std::string& idText)

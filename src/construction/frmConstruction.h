@@ -65,6 +65,9 @@ class ConstructionPanel : public ui::Panel {
     /// "Height": the base height with its button, the storeys of `optHeight` and the custom height.
     QGroupBox* MakeHeightFrame(ui::OptionArray& storeys);
 
+    /// The first line of a height group: the base height with the button that takes it from the client.
+    QLineEdit& AddBaseHeight(QWidget* frame, QGridLayout& layout);
+
     /// The picture of the chosen tile with its ID below it.
     QGroupBox* MakePreviewFrame();
 
@@ -99,6 +102,9 @@ class ConstructionPanel : public ui::Panel {
     /// Closes the boxes, whose place is picked in the client: disabled, "N/A" where they are empty and "0"
     /// for an empty base height.
     void CloseBoxes();
+
+    /// Enables or disables one of the buttons that take the player's place.
+    void EnableFetch(std::string_view button, bool enabled);
 
     /// Shows the ID text of the chosen tile.
     void        ShowItemId(const std::string& idText);
