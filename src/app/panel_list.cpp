@@ -6,7 +6,11 @@
 #include "app/frmOptions.h"
 #include "app/frmSplash.h"
 #include "console/frmWipe.h"
+#include "construction/frmCaves.h"
+#include "construction/frmCoastlines.h"
 #include "construction/frmFloors.h"
+#include "construction/frmForests.h"
+#include "construction/frmLandscapes.h"
 #include "construction/frmRoof.h"
 #include "construction/frmStairs.h"
 #include "construction/frmWalls.h"
@@ -23,15 +27,19 @@ std::unique_ptr<ui::Panel> Make(ui::AppContext& context)
 
 // clang-format off
 constexpr std::array panelList{
-    ui::PanelEntry{"frmSplash",  Make<frmSplash>},
-    ui::PanelEntry{"frmMain",    Make<frmMain>},
-    ui::PanelEntry{"frmAbout",   Make<frmAbout>},
-    ui::PanelEntry{"frmOptions", Make<frmOptions>},
-    ui::PanelEntry{"frmFloors",  Make<construction::frmFloors>},
-    ui::PanelEntry{"frmWalls",   Make<construction::frmWalls>},
-    ui::PanelEntry{"frmRoof",    Make<construction::frmRoof>},
-    ui::PanelEntry{"frmStairs",  Make<construction::frmStairs>},
-    ui::PanelEntry{"frmWipe",    Make<console::frmWipe>},
+    ui::PanelEntry{"frmSplash",     Make<frmSplash>},
+    ui::PanelEntry{"frmMain",       Make<frmMain>},
+    ui::PanelEntry{"frmAbout",      Make<frmAbout>},
+    ui::PanelEntry{"frmOptions",    Make<frmOptions>},
+    ui::PanelEntry{"frmFloors",     Make<construction::frmFloors>},
+    ui::PanelEntry{"frmWalls",      Make<construction::frmWalls>},
+    ui::PanelEntry{"frmRoof",       Make<construction::frmRoof>},
+    ui::PanelEntry{"frmStairs",     Make<construction::frmStairs>},
+    ui::PanelEntry{"frmForests",    Make<construction::frmForests>},
+    ui::PanelEntry{"frmLandscapes", Make<construction::frmLandscapes>},
+    ui::PanelEntry{"frmCoastlines", Make<construction::frmCoastlines>},
+    ui::PanelEntry{"frmCaves",      Make<construction::frmCaves>},
+    ui::PanelEntry{"frmWipe",       Make<console::frmWipe>},
 };
 // clang-format on
 

@@ -9,6 +9,7 @@
 #include <string_view>
 #include <vector>
 
+#include "construction/chain.h"
 #include "construction/commands.h"
 #include "construction/height.h"
 #include "core/generation.h"
@@ -26,6 +27,18 @@ struct ConstructionTraits {
     std::string_view heightBox = "txtCurrentHeight";
     bool             sharesArea = true;
     LoneMinus        loneMinus = LoneMinus::NoNumber;
+
+    /// The place buttons look at the box of Y, not X, to tell whether the place is known.
+    bool testsY = false;
+
+    /// Labels do the work of the place buttons.
+    bool fetchesByLabels = false;
+
+    /// A storey chosen with an empty base height takes the height from the client.
+    bool fetchesEmptyHeight = true;
+
+    /// The build height follows the base height as it is typed.
+    bool heightFollows = true;
 };
 
 /// The frame of the construction panels: the corners, the base height and the build height, the shown tile,
@@ -65,8 +78,14 @@ class ConstructionPanel : public ui::Panel {
     /// "Height": the base height with its button, the storeys of `optHeight` and the custom height.
     QGroupBox* MakeHeightFrame(ui::OptionArray& storeys);
 
+    /// "Height" with the base height alone.
+    QGroupBox* MakeBaseHeightFrame();
+
     /// The first line of a height group: the base height with the button that takes it from the client.
     QLineEdit& AddBaseHeight(QWidget* frame, QGridLayout& layout);
+
+    /// The picture of the chosen tile, in a place of its largest size.
+    QWidget* MakePicture(QWidget* parent);
 
     /// The picture of the chosen tile with its ID below it.
     QGroupBox* MakePreviewFrame();
@@ -82,12 +101,18 @@ class ConstructionPanel : public ui::Panel {
         int              count = 0;
         int              columns = 1;
         std::string_view pieceButtons = {};
+        std::string_view pieceHint = {}; ///< the tooltip of these buttons, where it is not the usual one
     };
 
     /// A page of options in columns, each with the button that adds one piece of it.
     QWidget* MakeOptionPage(QWidget* parent, ui::OptionArray& options, const OptionPage& page,
                             const std::function<std::string_view(int index)>& caption,
                             const std::function<void(int index)>&             addPiece);
+
+    /// The same in a frame with a caption.
+    QGroupBox* MakeOptionGroup(std::string_view name, std::string_view caption, ui::OptionArray& options,
+                               const OptionPage& page, const std::function<std::string_view(int index)>& captionOf,
+                               const std::function<void(int index)>& addPiece);
 
     /// The panel's own buttons, the chain steps whose panels exist, and "Exit".
     QLayout* MakeBottomRow(std::span<const CommandButton> buttons);
@@ -96,6 +121,14 @@ class ConstructionPanel : public ui::Panel {
     CommandButton RemoveButton(std::string_view name);
     CommandButton WipeButton(std::string_view caption);
 
+    /// What a closed box shows in place of nothing.
+    static constexpr const char* NotApplicable = "N/A";
+
+    /// Opens one box: enabled, in the info colour, a "N/A" emptied; closes one: disabled, the placeholder where it
+    /// is empty.
+    static void OpenBox(QLineEdit& box);
+    static void CloseBox(QLineEdit& box, const char* placeholder = NotApplicable);
+
     /// Opens the boxes for coordinates: enabled, in the info colour, a "N/A" emptied.
     void OpenBoxes();
 
@@ -103,8 +136,12 @@ class ConstructionPanel : public ui::Panel {
     /// for an empty base height.
     void CloseBoxes();
 
-    /// Enables or disables one of the buttons that take the player's place.
-    void EnableFetch(std::string_view button, bool enabled);
+    /// The controls that take the player's place, in the order of the corners, and his height.
+    enum class Fetch { Corner1, Corner2, Height };
+    void EnableFetch(Fetch fetch, bool enabled);
+
+    /// Opens or closes the boxes for coordinates and all three of these controls.
+    void TakePlace(bool takesPlace);
 
     /// Shows the ID text of the chosen tile.
     void        ShowItemId(const std::string& idText);
@@ -124,11 +161,13 @@ class ConstructionPanel : public ui::Panel {
   private:
     std::vector<QLineEdit*> AreaBoxes() const;
     QLineEdit*              FindBox(std::string_view name) const;
+    std::string_view        FetchName(Fetch fetch) const;
+    QWidget*                MakeFetch(QWidget* parent, Fetch fetch);
 
     void ApplyStorey(int storey);
     void HeightChanged();
     void CopyItemId();
-    void Step(std::string_view target, bool copiesArea);
+    void Step(const ChainStep& step);
 
     ConstructionTraits     traits_;
     core::ServerGeneration tableForm_;

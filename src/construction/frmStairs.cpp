@@ -93,19 +93,15 @@ frmStairs::frmStairs(ui::AppContext& context)
 
 QGroupBox* frmStairs::MakeMaterialFrame()
 {
-    auto* frame = ui::MakeFrame(this, "fraMaterial", "Material");
-    auto* page = MakeOptionPage(
-        frame, optMaterial,
-        {.first = 0, .count = static_cast<int>(StairRows().size()), .columns = 1, .pieceButtons = "cmdStairType"},
+    const OptionPage page{.first = 0,
+                          .count = static_cast<int>(StairRows().size()),
+                          .columns = 1,
+                          .pieceButtons = "cmdStairType",
+                          .pieceHint = "Add single item"};
+    return MakeOptionGroup(
+        "fraMaterial", "Material", optMaterial, page,
         [](int index) { return StairRows()[static_cast<std::size_t>(index)].caption; },
         [this](int index) { AddPiece(index); });
-    for (int index = 0; index < static_cast<int>(StairRows().size()); ++index) {
-        findChild<QWidget*>(ui::MemberName("cmdStairType", index))->setToolTip(QStringLiteral("Add single item"));
-    }
-    auto* layout = new QVBoxLayout(frame);
-    layout->setContentsMargins(0, 0, 0, 0);
-    layout->addWidget(page);
-    return frame;
 }
 
 QGroupBox* frmStairs::MakeDirectionFrame()
@@ -141,14 +137,6 @@ QGroupBox* frmStairs::MakeFlightEndFrame(const FlightEnd& end, ui::OptionArray& 
         Guard([this, name, storey, first] { SetHeight(name, first + storey); });
     };
     OnFocus(*box, [&options] { options.Clear(); });
-    return frame;
-}
-
-QGroupBox* frmStairs::MakeBaseHeightFrame()
-{
-    auto* frame = ui::MakeFrame(this, "fraHeight", "Height");
-    auto* layout = new QGridLayout(frame);
-    AddBaseHeight(frame, *layout);
     return frame;
 }
 

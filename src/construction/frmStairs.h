@@ -29,7 +29,6 @@ class frmStairs final : public ConstructionPanel {
     QGroupBox* MakeMaterialFrame();
     QGroupBox* MakeDirectionFrame();
     QGroupBox* MakeFlightEndFrame(const FlightEnd& end, ui::OptionArray& options);
-    QGroupBox* MakeBaseHeightFrame();
     QGroupBox* MakeModeFrame();
 
     StairsState State() const;

@@ -12,7 +12,7 @@ namespace {
 constexpr int TypeColumns = 2;
 constexpr int FirstType = 0;
 
-constexpr ConstructionTraits traits{.name = "frmWalls", .caption = "Walls", .spacedTitle = "W A L L S"};
+constexpr ConstructionTraits traits{.name = "frmWalls", .caption = "Walls", .spacedTitle = "W A L L S", .testsY = true};
 
 } // namespace
 
@@ -114,8 +114,8 @@ void frmWalls::MethodChosen(int method)
         CloseBoxes();
     }
     fraHeight->setEnabled(takesPlace);
-    EnableFetch("cmdwhere2", takesPlace);
-    EnableFetch("cmdCurrZ", takesPlace);
+    EnableFetch(Fetch::Corner2, takesPlace);
+    EnableFetch(Fetch::Height, takesPlace);
 }
 
 void frmWalls::FormChosen(int form)
