@@ -14,6 +14,10 @@
 #include "construction/frmRoof.h"
 #include "construction/frmStairs.h"
 #include "construction/frmWalls.h"
+#include "items/frmItemPos.h"
+#include "items/frmItems.h"
+#include "items/frmLightSource.h"
+#include "items/frmSpecial.h"
 
 namespace qf::app {
 
@@ -39,6 +43,10 @@ constexpr std::array panelList{
     ui::PanelEntry{"frmLandscapes", Make<construction::frmLandscapes>},
     ui::PanelEntry{"frmCoastlines", Make<construction::frmCoastlines>},
     ui::PanelEntry{"frmCaves",      Make<construction::frmCaves>},
+    ui::PanelEntry{"frmItems",      Make<items::frmItems>},
+    ui::PanelEntry{"frmSpecial",    Make<items::frmSpecial>},
+    ui::PanelEntry{"frmItemPos",    Make<items::frmItemPos>},
+    ui::PanelEntry{"frmLightSource", Make<items::frmLightSource>},
     ui::PanelEntry{"frmWipe",       Make<console::frmWipe>},
 };
 // clang-format on

@@ -6,6 +6,7 @@
 
 #include "core/host_path.h"
 #include "core/number_rules.h"
+#include "core/runtime_error.h"
 
 namespace qf::gamedata {
 
@@ -184,6 +185,9 @@ void DrawDiamond(NumberReader& art, Surface& surface)
 template <typename Surface>
 Outcome DrawTile(std::int32_t record, Surface& surface, ByteSource& index, ByteSource& art, const Form& form)
 {
+    if (record < 0) {
+        throw core::RuntimeError(core::error::BadRecordNumber);
+    }
     const auto lookup = NumberReader(index, core::Multiply32(record, IndexRecordBytes)).Integer32();
     if (lookup == AbsentTile) {
         return Outcome::Finished;

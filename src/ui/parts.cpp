@@ -113,4 +113,13 @@ void SetBackground(QLineEdit& box, BoxBackground background)
     box.setPalette(own);
 }
 
+void SelectWhole(QLineEdit& box)
+{
+    box.selectAll();
+    if (QGuiApplication::mouseButtons() != Qt::NoButton) {
+        // The click sets the cursor only after this, so the selection is made again behind it.
+        QMetaObject::invokeMethod(&box, "selectAll", Qt::QueuedConnection);
+    }
+}
+
 } // namespace qf::ui

@@ -44,4 +44,7 @@ QLabel* MakeTitle(QWidget* parent, std::string_view name, std::string_view capti
 enum class BoxBackground { Info, ButtonFace };
 void SetBackground(QLineEdit& box, BoxBackground background);
 
+/// Selects the whole text of a box that gets the focus, also when a click brings the focus.
+void SelectWhole(QLineEdit& box);
+
 } // namespace qf::ui
