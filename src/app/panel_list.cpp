@@ -6,11 +6,22 @@
 #include "app/frmOptions.h"
 #include "app/frmSplash.h"
 #include "console/frmWipe.h"
+#include "construction/frmCaves.h"
+#include "construction/frmCoastlines.h"
 #include "construction/frmFloors.h"
+#include "construction/frmForests.h"
+#include "construction/frmLandscapes.h"
+#include "construction/frmRoof.h"
+#include "construction/frmStairs.h"
+#include "construction/frmWalls.h"
 #include "gamedata/frmClothing.h"
 #include "gamedata/frmDye.h"
 #include "gamedata/frmItemExplorer.h"
 #include "gamedata/frmPicture.h"
+#include "items/frmItemPos.h"
+#include "items/frmItems.h"
+#include "items/frmLightSource.h"
+#include "items/frmSpecial.h"
 #include "world/frmHouseExtraction.h"
 #include "world/frmHouseTemplates.h"
 
@@ -31,6 +42,17 @@ constexpr std::array panelList{
     ui::PanelEntry{"frmAbout",           Make<frmAbout>},
     ui::PanelEntry{"frmOptions",         Make<frmOptions>},
     ui::PanelEntry{"frmFloors",          Make<construction::frmFloors>},
+    ui::PanelEntry{"frmWalls",           Make<construction::frmWalls>},
+    ui::PanelEntry{"frmRoof",            Make<construction::frmRoof>},
+    ui::PanelEntry{"frmStairs",          Make<construction::frmStairs>},
+    ui::PanelEntry{"frmForests",         Make<construction::frmForests>},
+    ui::PanelEntry{"frmLandscapes",      Make<construction::frmLandscapes>},
+    ui::PanelEntry{"frmCoastlines",      Make<construction::frmCoastlines>},
+    ui::PanelEntry{"frmCaves",           Make<construction::frmCaves>},
+    ui::PanelEntry{"frmItems",           Make<items::frmItems>},
+    ui::PanelEntry{"frmSpecial",         Make<items::frmSpecial>},
+    ui::PanelEntry{"frmItemPos",         Make<items::frmItemPos>},
+    ui::PanelEntry{"frmLightSource",     Make<items::frmLightSource>},
     ui::PanelEntry{"frmWipe",            Make<console::frmWipe>},
     ui::PanelEntry{"frmHouseExtraction", Make<world::frmHouseExtraction>},
     ui::PanelEntry{"frmHouseTemplates",  Make<world::frmHouseTemplates>},

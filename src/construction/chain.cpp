@@ -18,11 +18,12 @@ constexpr std::array steps{
     ChainStep{"frmForests",    "Command6",  "< Stairs",     "frmStairs",     true},
     ChainStep{"frmForests",    "Command8",  "> Landscapes", "frmLandscapes", false},
     ChainStep{"frmLandscapes", "Command6",  "< Forests",    "frmForests",    false},
-    ChainStep{"frmLandscapes", "Command8",  "> Items",      "frmCoastlines", false},
+    ChainStep{"frmLandscapes", "Command8",  "> Items",      "frmCoastlines", false, "frmItems"},
     ChainStep{"frmCoastlines", "Command6",  "< Landscapes", "frmLandscapes", false},
     ChainStep{"frmCoastlines", "Command8",  "> Caves",      "frmCaves",      false},
     ChainStep{"frmCaves",      "Command6",  "< Coastlines", "frmCoastlines", false},
     ChainStep{"frmCaves",      "Command8",  "> Items",      "frmItems",      false},
+    ChainStep{"frmSpecial",    "Command6",  "< Items",      "frmItems",      false},
 };
 // clang-format on
 

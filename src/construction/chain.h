@@ -14,6 +14,9 @@ struct ChainStep {
 
     /// Whether the step copies the two corners and the height into the panel that it shows.
     bool copiesArea;
+
+    /// The panel that takes the place on the screen; the one that is shown where nothing is told.
+    std::string_view moves = {};
 };
 
 /// All steps of the chain, in the order in which the panels stand in it.

@@ -4,7 +4,6 @@
 #include <QVBoxLayout>
 #include <array>
 
-#include "construction/chain.h"
 #include "core/number_rules.h"
 #include "core/tile_id.h"
 #include "ui/parts.h"
@@ -15,28 +14,32 @@ namespace {
 
 constexpr int CoordinateDigits = 6;
 
-constexpr auto NotApplicable = "N/A";
-
-/// The boxes and the button of one corner.
+/// The boxes of one corner.
 struct Corner {
     std::string_view boxX;
     std::string_view boxY;
-    std::string_view button;
-    std::string_view caption;
     std::string_view labelX;
     std::string_view labelY;
 };
 
-// clang-format off
-constexpr std::array corners{
-    Corner{"txtX1", "txtY1", "cmdwhere1", "X1 Y1", "X1", "Y1"},
-    Corner{"txtX2", "txtY2", "cmdwhere2", "X2 Y2", "X2", "Y2"},
+/// A control that takes the player's place or height: a button, or a label that does its work.
+struct FetchRow {
+    std::string_view button;
+    std::string_view label;
+    std::string_view caption;
+    std::string_view toolTip;
 };
 
-constexpr std::array positionRows{
-    //              control      X        Y        Z                   tested
-    ui::PositionRow{"cmdwhere1", "txtX1", "txtY1", "",                 "txtX1"},
-    ui::PositionRow{"cmdwhere2", "txtX2", "txtY2", "",                 "txtX2"},
+// clang-format off
+constexpr std::array corners{
+    Corner{"txtX1", "txtY1", "X1", "Y1"},
+    Corner{"txtX2", "txtY2", "X2", "Y2"},
+};
+
+constexpr std::array fetchRows{
+    FetchRow{"cmdwhere1", "lblWhere1", "X1 Y1",     "Takes the place where you stand"},
+    FetchRow{"cmdwhere2", "lblWhere2", "X2 Y2",     "Takes the place where you stand"},
+    FetchRow{"cmdCurrZ",  "lblWhere3", "Current Z", "Takes the height at which you stand"},
 };
 // clang-format on
 
@@ -62,32 +65,61 @@ QGroupBox* ConstructionPanel::MakeCoordinateFrame()
     auto* layout = new QGridLayout(frame);
     int   line = 0;
     for (const auto& corner : corners) {
-        auto* x = ui::MakeTextBox(frame, corner.boxX, CoordinateDigits);
-        auto* y = ui::MakeTextBox(frame, corner.boxY, CoordinateDigits);
-        auto* where = ui::MakeButton(frame, corner.button, corner.caption, "Takes the place where you stand");
+        const auto fetch = line == 0 ? Fetch::Corner1 : Fetch::Corner2;
+        auto*      x = ui::MakeTextBox(frame, corner.boxX, CoordinateDigits);
+        auto*      y = ui::MakeTextBox(frame, corner.boxY, CoordinateDigits);
+        auto*      where = MakeFetch(frame, fetch);
         layout->addWidget(ui::MakeLabelFor(x, "", corner.labelX), line, 0);
         layout->addWidget(x, line, 1);
         layout->addWidget(ui::MakeLabelFor(y, "", corner.labelY), line, 2);
         layout->addWidget(y, line, 3);
         layout->addWidget(where, line, 4);
+        AddPositionControl(
+            {FetchName(fetch), corner.boxX, corner.boxY, "", traits_.testsY ? corner.boxY : corner.boxX});
         ++line;
     }
-    for (const auto& row : positionRows) {
-        AddPositionControl(row);
-    }
     return frame;
+}
+
+std::string_view ConstructionPanel::FetchName(Fetch fetch) const
+{
+    const auto& row = fetchRows[static_cast<std::size_t>(fetch)];
+    return traits_.fetchesByLabels ? row.label : row.button;
+}
+
+QWidget* ConstructionPanel::MakeFetch(QWidget* parent, Fetch fetch)
+{
+    const auto& row = fetchRows[static_cast<std::size_t>(fetch)];
+    if (!traits_.fetchesByLabels) {
+        return ui::MakeButton(parent, row.button, row.caption, row.toolTip);
+    }
+    return ui::MakeClickLabel(parent, row.label, row.caption, row.toolTip);
+}
+
+QGroupBox* ConstructionPanel::MakeBaseHeightFrame()
+{
+    auto* frame = ui::MakeFrame(this, "fraHeight", "Height");
+    auto* layout = new QGridLayout(frame);
+    AddBaseHeight(frame, *layout);
+    return frame;
+}
+
+QLineEdit& ConstructionPanel::AddBaseHeight(QWidget* frame, QGridLayout& layout)
+{
+    auto* current = ui::MakeTextBox(frame, traits_.heightBox, CoordinateDigits);
+    auto* fetch = MakeFetch(frame, Fetch::Height);
+    layout.addWidget(ui::MakeLabelFor(current, "", "Current height"), 0, 0);
+    layout.addWidget(current, 0, 1);
+    layout.addWidget(fetch, 0, 2);
+    AddPositionControl({FetchName(Fetch::Height), "", "", traits_.heightBox, ""});
+    return *current;
 }
 
 QGroupBox* ConstructionPanel::MakeHeightFrame(ui::OptionArray& storeys)
 {
     auto* frame = ui::MakeFrame(this, "fraHeight", "Height");
     auto* layout = new QGridLayout(frame);
-    auto* current = ui::MakeTextBox(frame, traits_.heightBox, CoordinateDigits);
-    auto* fetch = ui::MakeButton(frame, "cmdCurrZ", "Current Z", "Takes the height at which you stand");
-    layout->addWidget(ui::MakeLabelFor(current, "", "Current height"), 0, 0);
-    layout->addWidget(current, 0, 1);
-    layout->addWidget(fetch, 0, 2);
-    AddPositionControl({"cmdCurrZ", "", "", traits_.heightBox, ""});
+    auto& current = AddBaseHeight(frame, *layout);
 
     auto* floors = new QHBoxLayout;
     int   index = 0;
@@ -103,23 +135,29 @@ QGroupBox* ConstructionPanel::MakeHeightFrame(ui::OptionArray& storeys)
 
     storeys_ = &storeys;
     storeys.onSelect = [this](int storey) { Guard([this, storey] { ApplyStorey(storey); }); };
-    OnChange(*current, [this] { HeightChanged(); });
+    if (traits_.heightFollows) {
+        OnChange(current, [this] { HeightChanged(); });
+    }
     OnFocus(*custom, [this] { storeys_->Clear(); });
     return frame;
+}
+
+QWidget* ConstructionPanel::MakePicture(QWidget* parent)
+{
+    pctMain_ = new ui::PictureSurface(parent);
+    pctMain_->setObjectName(QStringLiteral("pctMain"));
+    return ui::MakePicturePlace(parent, *pctMain_);
 }
 
 QGroupBox* ConstructionPanel::MakePreviewFrame()
 {
     auto* frame = ui::MakeFrame(this, "fraPreview", "Tile");
     auto* layout = new QVBoxLayout(frame);
-    auto* picture = new ui::PictureSurface(frame);
-    picture->setObjectName(QStringLiteral("pctMain"));
-    pctMain_ = picture;
     auto* id = ui::MakeTextBox(frame, "txtItemID", 8);
     id->setToolTip(QStringLiteral("Click to copy ID"));
     id->setReadOnly(true);
     id->setAlignment(Qt::AlignCenter);
-    auto* place = ui::MakePicturePlace(frame, *picture);
+    auto* place = MakePicture(frame);
     id->setMaximumWidth(place->width());
     OnClick(*id, [this] { CopyItemId(); });
     layout->addWidget(place, 0, Qt::AlignCenter);
@@ -141,6 +179,47 @@ QGroupBox* ConstructionPanel::MakeOptionFrame(std::string_view name, std::string
     return frame;
 }
 
+QWidget* ConstructionPanel::MakeOptionPage(QWidget* parent, ui::OptionArray& options, const OptionPage& page,
+                                           const std::function<std::string_view(int index)>& caption,
+                                           const std::function<void(int index)>&             addPiece)
+{
+    constexpr int GridColumnsEach = 3;
+    auto*         widget = new QWidget(parent);
+    auto*         layout = new QGridLayout(widget);
+    const int     perLine = (page.count + page.columns - 1) / page.columns;
+    layout->setVerticalSpacing(2);
+    for (int place = 0; place < page.count; ++place) {
+        const int index = page.first + place;
+        const int column = place / perLine * GridColumnsEach;
+        layout->addWidget(&options.Add(index, caption(index), widget), place % perLine, column);
+        if (!page.pieceButtons.empty()) {
+            auto* piece = ui::MakeAddButton(widget, ui::MemberName(page.pieceButtons, index), caption(index));
+            if (!page.pieceHint.empty()) {
+                piece->setToolTip(ui::Text(page.pieceHint));
+            }
+            OnClick(*piece, [addPiece, index] { addPiece(index); });
+            layout->addWidget(piece, place % perLine, column + 1);
+        }
+    }
+    for (int column = 0; column < page.columns; ++column) {
+        layout->setColumnStretch(column * GridColumnsEach + 2, 1);
+    }
+    layout->setRowStretch(perLine, 1);
+    return widget;
+}
+
+QGroupBox* ConstructionPanel::MakeOptionGroup(std::string_view name, std::string_view caption, ui::OptionArray& options,
+                                              const OptionPage&                                 page,
+                                              const std::function<std::string_view(int index)>& captionOf,
+                                              const std::function<void(int index)>&             addPiece)
+{
+    auto* frame = ui::MakeFrame(this, name, caption);
+    auto* layout = new QVBoxLayout(frame);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->addWidget(MakeOptionPage(frame, options, page, captionOf, addPiece));
+    return frame;
+}
+
 QLayout* ConstructionPanel::MakeBottomRow(std::span<const CommandButton> buttons)
 {
     auto* row = new QHBoxLayout;
@@ -157,7 +236,7 @@ QLayout* ConstructionPanel::MakeBottomRow(std::span<const CommandButton> buttons
     for (const auto& step : ChainSteps()) {
         if (step.from == traits_.name && Context().panels.Has(step.to)) {
             auto* made = ui::MakeButton(this, step.button, step.caption);
-            OnClick(*made, [this, &step] { Step(step.to, step.copiesArea); });
+            OnClick(*made, [this, &step] { Step(step); });
             row->addWidget(made);
         }
     }
@@ -245,19 +324,30 @@ std::vector<QLineEdit*> ConstructionPanel::AreaBoxes() const
     return boxes;
 }
 
+void ConstructionPanel::OpenBox(QLineEdit& box)
+{
+    box.setEnabled(true);
+    ui::SetBackground(box, ui::BoxBackground::Info);
+    if (box.text() == QLatin1String(NotApplicable)) {
+        box.clear();
+    }
+}
+
+void ConstructionPanel::CloseBox(QLineEdit& box, const char* placeholder)
+{
+    box.setEnabled(false);
+    ui::SetBackground(box, ui::BoxBackground::ButtonFace);
+    if (box.text().isEmpty()) {
+        box.setText(QLatin1String(placeholder));
+    }
+}
+
 void ConstructionPanel::OpenBoxes()
 {
-    const auto open = [](QLineEdit& box) {
-        box.setEnabled(true);
-        ui::SetBackground(box, ui::BoxBackground::Info);
-        if (box.text() == QLatin1String(NotApplicable)) {
-            box.clear();
-        }
-    };
     for (auto* box : AreaBoxes()) {
-        open(*box);
+        OpenBox(*box);
     }
-    open(Box(traits_.heightBox));
+    OpenBox(Box(traits_.heightBox));
     if (storeys_ != nullptr) {
         storeys_->SetEnabled(true);
     }
@@ -265,16 +355,9 @@ void ConstructionPanel::OpenBoxes()
 
 void ConstructionPanel::CloseBoxes()
 {
-    const auto close = [](QLineEdit& box, const char* placeholder) {
-        box.setEnabled(false);
-        ui::SetBackground(box, ui::BoxBackground::ButtonFace);
-        if (box.text().isEmpty()) {
-            box.setText(QLatin1String(placeholder));
-        }
-    };
-    close(Box(traits_.heightBox), "0");
+    CloseBox(Box(traits_.heightBox), "0");
     for (auto* box : AreaBoxes()) {
-        close(*box, NotApplicable);
+        CloseBox(*box);
     }
     if (storeys_ != nullptr) {
         storeys_->SetEnabled(false);
@@ -284,7 +367,7 @@ void ConstructionPanel::CloseBoxes()
 void ConstructionPanel::ApplyStorey(int storey)
 {
     auto& height = Box(traits_.heightBox);
-    if (height.text().isEmpty()) {
+    if (traits_.fetchesEmptyHeight && height.text().isEmpty()) {
         height.setText(ui::Text(core::ToText(Context().FetchLocation().z)));
     }
     RunTrapped(Outlet(), InvalidHeightText,
@@ -297,6 +380,23 @@ void ConstructionPanel::HeightChanged()
     const auto custom = BuildHeightAfterChange(text, storeys_->Selected(), traits_.loneMinus, Outlet());
     if (custom) {
         Box("txtCustom").setText(ui::Text(*custom));
+    }
+}
+
+void ConstructionPanel::EnableFetch(Fetch fetch, bool enabled)
+{
+    findChild<QWidget*>(ui::Text(FetchName(fetch)))->setEnabled(enabled);
+}
+
+void ConstructionPanel::TakePlace(bool takesPlace)
+{
+    if (takesPlace) {
+        OpenBoxes();
+    } else {
+        CloseBoxes();
+    }
+    for (const auto fetch : {Fetch::Corner1, Fetch::Corner2, Fetch::Height}) {
+        EnableFetch(fetch, takesPlace);
     }
 }
 
@@ -317,6 +417,12 @@ void ConstructionPanel::DrawTile(std::int32_t number)
     Context().DrawStaticTile(number, *pctMain_);
 }
 
+void ConstructionPanel::ShowTileNumber(std::int32_t number)
+{
+    ShowItemId(core::HexNumberText(number));
+    DrawTile(number);
+}
+
 std::string ConstructionPanel::ItemId() const
 {
     return ui::Utf8(Box("txtItemID").text());
@@ -333,15 +439,18 @@ void ConstructionPanel::CopyItemId()
     Outlet().Show(core::PlainBox("Item ID copied to clipboard!"));
 }
 
-void ConstructionPanel::Step(std::string_view target, bool copiesArea)
+void ConstructionPanel::Step(const ChainStep& step)
 {
-    auto& next = Context().panels.Touch(target);
-    if (auto* neighbour = dynamic_cast<ConstructionPanel*>(&next); neighbour != nullptr && copiesArea) {
+    auto& panels = Context().panels;
+    auto& next = panels.Touch(step.to);
+    if (auto* neighbour = dynamic_cast<ConstructionPanel*>(&next); neighbour != nullptr && step.copiesArea) {
         neighbour->SetArea(Area());
     }
-    next.move(pos());
+    if (const auto moved = step.moves.empty() ? step.to : step.moves; panels.Has(moved)) {
+        panels.Touch(moved).move(pos());
+    }
     hide();
-    Context().panels.Show(target);
+    panels.Show(step.to);
 }
 
 } // namespace qf::construction

@@ -85,26 +85,13 @@ QTabWidget* frmFloors::MakeTabs()
 QWidget* frmFloors::MakePage(std::span<const FloorRow> rows, int first, int count, ui::OptionArray& options,
                              std::string_view pieceButtons, int columns)
 {
-    auto*     page = new QWidget(tabFloor);
-    auto*     layout = new QGridLayout(page);
-    const int perLine = (count + columns - 1) / columns;
-    layout->setVerticalSpacing(2);
-    for (int place = 0; place < count; ++place) {
-        const int   index = first + place;
-        const auto& row = rows[static_cast<std::size_t>(index)];
-        const int   column = place / perLine * 3;
-        auto*       piece = ui::MakeAddButton(page, ui::MemberName(pieceButtons, index), row.caption);
-        OnClick(*piece, [this, tab = static_cast<int>(row.tab), index] {
-            AddFloorPiece(State(), tab, index, Generation(), Outlet());
+    const auto row = [rows](int index) -> const FloorRow& { return rows[static_cast<std::size_t>(index)]; };
+    return MakeOptionPage(
+        tabFloor, options, {.first = first, .count = count, .columns = columns, .pieceButtons = pieceButtons},
+        [row](int index) { return row(index).caption; },
+        [this, row](int index) {
+            AddFloorPiece(State(), static_cast<int>(row(index).tab), index, Generation(), Outlet());
         });
-        layout->addWidget(&options.Add(index, row.caption, page), place % perLine, column);
-        layout->addWidget(piece, place % perLine, column + 1);
-    }
-    for (int column = 0; column < columns; ++column) {
-        layout->setColumnStretch(column * 3 + 2, 1);
-    }
-    layout->setRowStretch(perLine, 1);
-    return page;
 }
 
 FloorsState frmFloors::State() const

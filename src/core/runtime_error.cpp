@@ -11,6 +11,7 @@ std::string DescriptionOf(int number)
     case error::TypeMismatch: return "Type mismatch";
     case error::FileNotFound: return "File not found";
     case error::FileAlreadyOpen: return "File already open";
+    case error::BadRecordNumber: return "Bad record number";
     case error::TooManyFiles: return "Too many files";
     case error::DeviceUnavailable: return "Device unavailable";
     case error::PathFileAccess: return "Path/File access error";

@@ -13,6 +13,7 @@ inline constexpr int SubscriptRange = 9;
 inline constexpr int TypeMismatch = 13;
 inline constexpr int FileNotFound = 53;
 inline constexpr int FileAlreadyOpen = 55;
+inline constexpr int BadRecordNumber = 63;
 inline constexpr int TooManyFiles = 67;
 inline constexpr int DeviceUnavailable = 68;
 inline constexpr int PathFileAccess = 75;

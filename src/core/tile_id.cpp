@@ -38,6 +38,18 @@ std::string TileIdText(std::string_view digits, ServerGeneration generation)
     return text;
 }
 
+std::string HexNumberText(std::int32_t number)
+{
+    constexpr std::size_t MostDigits = 8;
+    char                  digits[MostDigits];
+    const auto            end = std::to_chars(digits, digits + MostDigits, static_cast<std::uint32_t>(number), 16).ptr;
+    std::string           text = "0x";
+    for (const char* digit = digits; digit != end; ++digit) {
+        text += *digit >= 'a' ? static_cast<char>(*digit - 'a' + 'A') : *digit;
+    }
+    return text;
+}
+
 std::int32_t TileNumber(std::string_view idText, ServerGeneration generation)
 {
     if (generation.Is070() && idText.size() == 5 && idText[2] == ' ') {

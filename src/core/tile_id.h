@@ -18,4 +18,8 @@ std::string TileIdText(std::string_view digits, ServerGeneration generation);
 /// that is no such ID.
 std::int32_t TileNumber(std::string_view idText, ServerGeneration generation);
 
+/// "0x" with the number in upper-case hexadecimal without leading zeros: "0x5CE". Negative numbers are their
+/// 32-bit pattern.
+std::string HexNumberText(std::int32_t number);
+
 } // namespace qf::core

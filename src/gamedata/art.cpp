@@ -6,6 +6,7 @@
 
 #include "core/host_path.h"
 #include "core/number_rules.h"
+#include "core/runtime_error.h"
 
 namespace qf::gamedata {
 
@@ -210,8 +211,12 @@ void ForEachDiamondLine(Line line)
 
 Outcome DrawTile(std::int32_t record, core::PixelSurface& surface, ByteSource& index, ByteSource& art, const Form& form)
 {
+    const auto place = core::Multiply32(record, IndexRecordBytes);
+    if (place < 0) {
+        throw core::RuntimeError(core::error::BadRecordNumber);
+    }
     std::array<std::byte, 4> bytes{};
-    index.Read(core::Multiply32(record, IndexRecordBytes), bytes);
+    index.Read(place, bytes);
     const auto lookup = Number32(bytes.data());
     if (lookup == AbsentTile) {
         return Outcome::Finished;

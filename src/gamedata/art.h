@@ -38,8 +38,8 @@ struct TileDrawing {
 /// The index has records of 12 bytes: lookup (signed 32-bit byte offset, -1 for none), size, and a third
 /// field. A tile is a 32-bit flag, then either the pixels of a diamond or width, height, line starts and runs.
 ///
-/// Throws RuntimeError 6 where a number leaves its range, 67 where no file number is free. A tile found
-/// damaged in its course leaves both file numbers in use.
+/// Throws RuntimeError 6 where a number leaves its range, 63 where the index record's number is negative, 67
+/// where no file number is free. A tile found damaged in its course leaves both file numbers in use.
 void DrawStaticTile(std::int32_t& id, core::PixelSurface& picture, const TileDrawing& drawing,
                     core::FileNumbers& numbers);
 
@@ -49,7 +49,7 @@ void DrawStaticTile2(std::int32_t& id, core::PixelSurface& picture, const TileDr
 
 /// Draws the tile of an item ID from files that the caller has opened, on a surface that it has cleared. The
 /// surface takes the tile's own size, without margin or limit.
-/// Throws RuntimeError 6 where a number leaves its range.
+/// Throws RuntimeError 6 where a number leaves its range, 63 where the index record's number is negative.
 void DrawStaticTileFromFiles(std::int32_t id, core::PixelSurface& picture, ByteSource& index, ByteSource& art,
                              bool seeItemPics, core::Rgb background);
 

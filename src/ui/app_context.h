@@ -76,7 +76,7 @@ class AppContext {
     bool ItemPicsWanted();
 
     /// Draws the static tile of an item ID on a picture, where "See Item Pics" is on.
-    /// Throws RuntimeError 6 for a number out of range, 67 where no file number is free.
+    /// Throws RuntimeError 6 for a number out of range, 63 for one below all records, 67 where no file number is free.
     void DrawStaticTile(std::int32_t id, PictureSurface& picture);
 
   private:

@@ -2,6 +2,8 @@
 
 #include <QAbstractButton>
 #include <QCloseEvent>
+#include <QKeyEvent>
+#include <QLabel>
 #include <QMouseEvent>
 #include <utility>
 
@@ -17,6 +19,11 @@ constexpr int TwipsPerPixel = 15;
 int ToPixels(int twips)
 {
     return qRound(static_cast<double>(twips) / TwipsPerPixel);
+}
+
+bool TakesClickFocus(const QWidget& control)
+{
+    return (control.focusPolicy() & Qt::ClickFocus) != 0;
 }
 
 } // namespace
@@ -241,7 +248,7 @@ bool Panel::eventFilter(QObject* object, QEvent* event)
         if (static_cast<QMouseEvent*>(event)->button() == Qt::LeftButton) {
             InvokePress(*control);
             // A label passes a press on to what lies below it, which would then get the release as well.
-            return click_.contains(control) && !control->focusPolicy();
+            return click_.contains(control) && !TakesClickFocus(*control);
         }
         break;
     case QEvent::MouseButtonRelease: {
@@ -250,7 +257,7 @@ bool Panel::eventFilter(QObject* object, QEvent* event)
             break;
         }
         if (mouse->button() == Qt::LeftButton && control->rect().contains(mouse->position().toPoint())) {
-            return InvokeClick(*control) && !control->focusPolicy();
+            return InvokeClick(*control) && !TakesClickFocus(*control);
         }
         break;
     }
@@ -263,6 +270,15 @@ bool Panel::eventFilter(QObject* object, QEvent* event)
             }
         }
         break;
+    case QEvent::KeyPress: {
+        // What is clicked without being a button takes the keys of one where the keyboard reaches it.
+        const int key = static_cast<QKeyEvent*>(event)->key();
+        if (qobject_cast<QLabel*>(control) != nullptr &&
+            (key == Qt::Key_Space || key == Qt::Key_Return || key == Qt::Key_Enter)) {
+            return InvokeClick(*control);
+        }
+        break;
+    }
     case QEvent::FocusIn: Invoke(focus_, *control); break;
     case QEvent::FocusOut: Invoke(blur_, *control); break;
     default: break;

@@ -70,6 +70,18 @@ QLabel* MakeLabelFor(QWidget* buddy, std::string_view name, std::string_view cap
     return label;
 }
 
+QLabel* MakeClickLabel(QWidget* parent, std::string_view name, std::string_view caption, std::string_view toolTip)
+{
+    auto* label = MakeLabel(parent, name, caption);
+    label->setToolTip(Text(toolTip));
+    label->setAlignment(Qt::AlignCenter);
+    label->setFrameStyle(QFrame::Panel | QFrame::Raised);
+    label->setMargin(label->fontMetrics().height() / 4);
+    label->setFocusPolicy(Qt::TabFocus);
+    label->setCursor(Qt::PointingHandCursor);
+    return label;
+}
+
 QGroupBox* MakeFrame(QWidget* parent, std::string_view name, std::string_view caption)
 {
     return Named(new QGroupBox(Text(caption), parent), name);
@@ -99,6 +111,15 @@ void SetBackground(QLineEdit& box, BoxBackground background)
     own.setColor(QPalette::Active, QPalette::Text, system.color(QPalette::Active, text));
     own.setColor(QPalette::Inactive, QPalette::Text, system.color(QPalette::Active, text));
     box.setPalette(own);
+}
+
+void SelectWhole(QLineEdit& box)
+{
+    box.selectAll();
+    if (QGuiApplication::mouseButtons() != Qt::NoButton) {
+        // The click sets the cursor only after this, so the selection is made again behind it.
+        QMetaObject::invokeMethod(&box, "selectAll", Qt::QueuedConnection);
+    }
 }
 
 } // namespace qf::ui

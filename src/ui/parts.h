@@ -30,6 +30,9 @@ QLabel* MakeLabel(QWidget* parent, std::string_view name, std::string_view capti
 /// A label whose access key and click lead to a box.
 QLabel* MakeLabelFor(QWidget* buddy, std::string_view name, std::string_view caption);
 
+/// A label that is clicked like a button; the keyboard reaches it and Space or Enter click it.
+QLabel* MakeClickLabel(QWidget* parent, std::string_view name, std::string_view caption, std::string_view toolTip);
+
 /// A framed group with its caption.
 QGroupBox* MakeFrame(QWidget* parent, std::string_view name, std::string_view caption);
 
@@ -40,5 +43,8 @@ QLabel* MakeTitle(QWidget* parent, std::string_view name, std::string_view capti
 /// button face.
 enum class BoxBackground { Info, ButtonFace };
 void SetBackground(QLineEdit& box, BoxBackground background);
+
+/// Selects the whole text of a box that gets the focus, also when a click brings the focus.
+void SelectWhole(QLineEdit& box);
 
 } // namespace qf::ui

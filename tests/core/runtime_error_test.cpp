@@ -20,6 +20,7 @@ TEST(RuntimeError, EachNumberHasItsDescription)
         {13, "Type mismatch"},
         {53, "File not found"},
         {55, "File already open"},
+        {63, "Bad record number"},
         {67, "Too many files"},
         {68, "Device unavailable"},
         {75, "Path/File access error"},

@@ -93,5 +93,14 @@ TEST(TileNumber, AnythingElseIsATypeError)
     }
 }
 
+TEST(HexNumberText, IsUpperCaseWithoutLeadingZeros)
+{
+    EXPECT_EQ(HexNumberText(0x05CE), "0x5CE");
+    EXPECT_EQ(HexNumberText(5899), "0x170B");
+    EXPECT_EQ(HexNumberText(0), "0x0");
+    EXPECT_EQ(HexNumberText(-1), "0xFFFFFFFF");
+    EXPECT_EQ(HexNumberText(0x7ABCDEF9), "0x7ABCDEF9");
+}
+
 } // namespace
 } // namespace qf::core

@@ -28,11 +28,13 @@ TEST_F(StaticTile, RecordBehindTheEndOfTheIndexReadsTheStartOfTheArt)
     EXPECT_EQ(Top(canvas, 1), Picture{"r......"});
 }
 
-TEST_F(StaticTile, RecordBeforeTheStartOfTheIndexReadsTheStartOfTheArt)
+TEST_F(StaticTile, RecordBeforeTheStartOfTheIndexIsAnErrorThatLeavesTheFilesOpen)
 {
     Files(IndexRecord(-1), RunTile(2, 2, {{0, 1, Red, 0, 0}, {0, 0}}));
-    EXPECT_EQ(DrawFiles(FirstOfIndex - 5), 0);
-    EXPECT_EQ(Top(canvas, 1), Picture{"r......"});
+    EXPECT_EQ(DrawFiles(FirstOfIndex - 1), 63);
+    EXPECT_EQ(Drawn(canvas), 0);
+    EXPECT_EQ(numbers.InUse(), 2);
+    EXPECT_EQ(DrawFiles(FirstOfIndex), 0);
 }
 
 TEST_F(StaticTile, RecordThatIsCutOffReadsZerosForTheRest)

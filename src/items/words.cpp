@@ -1,0 +1,21 @@
+#include "items/words.h"
+
+#include <string>
+
+namespace qf::items {
+
+void SendWords(const Words& words, std::string_view argument, core::ServerGeneration generation, core::Outlet& outlet)
+{
+    std::string command;
+    if (generation.Is070() || words.in070 == words.in09) {
+        command = words.in070;
+    } else if (generation.Is09()) {
+        command = words.in09;
+    } else {
+        return;
+    }
+    command += argument;
+    outlet.Send(command);
+}
+
+} // namespace qf::items
