@@ -35,17 +35,11 @@ frmCaves::frmCaves(ui::AppContext& context)
     static_cast<QVBoxLayout*>(method->layout())
         ->insertWidget(static_cast<int>(optAddMethod.Members().size()), repeatCheck);
 
-    auto* upper = new QHBoxLayout;
-    upper->addWidget(method, 1);
-    upper->addWidget(MakePreviewFrame());
-    fraHeight = MakeHeightFrame(optFloor);
-    auto* right = new QVBoxLayout;
-    right->addLayout(upper, 1);
-    right->addWidget(MakeCoordinateFrame());
-    right->addWidget(fraHeight);
-    auto* body = new QHBoxLayout;
-    body->addWidget(tabFloor, 1);
-    body->addLayout(right);
+    auto* body = MakeBody({.kinds = tabFloor,
+                           .choices = MakeColumn({method}),
+                           .preview = MakePreviewFrame(),
+                           .corners = MakeCoordinateFrame(),
+                           .height = (fraHeight = MakeHeightFrame(optFloor))});
 
     const CommandButton buttons[] = {
         {"cmdAdd", "Add", [this] { AddCave(State(), Generation(), Context().environment.uniform, Outlet()); },

@@ -25,16 +25,11 @@ frmCoastlines::frmCoastlines(ui::AppContext& context)
     auto* method =
         MakeOptionFrame("fraAddMethod", "Add method", optAddMethod, {"Point'n Click", "Coordinates", "Single Item"});
 
-    auto* upper = new QHBoxLayout;
-    upper->addWidget(method, 1);
-    upper->addWidget(MakePreviewFrame());
-    auto* right = new QVBoxLayout;
-    right->addLayout(upper, 1);
-    right->addWidget(MakeCoordinateFrame());
-    right->addWidget(MakeBaseHeightFrame());
-    auto* body = new QHBoxLayout;
-    body->addLayout(kinds, 1);
-    body->addLayout(right);
+    auto* body = MakeBody({.kinds = kinds,
+                           .choices = MakeColumn({method}),
+                           .preview = MakePreviewFrame(),
+                           .corners = MakeCoordinateFrame(),
+                           .height = MakeBaseHeightFrame()});
 
     const CommandButton buttons[] = {
         {"cmdAdd", "Add", [this] { AddCoast(State(), Generation(), Context().environment.uniform, Outlet()); },
@@ -47,7 +42,7 @@ frmCoastlines::frmCoastlines(ui::AppContext& context)
     optAddMethod.onSelect = [this](int chosen) { Guard([this, chosen] { TakePlace(chosen == RandomCoordinates); }); };
 }
 
-QLayout* frmCoastlines::MakeKinds()
+QWidget* frmCoastlines::MakeKinds()
 {
     Label2 = ui::MakeClickLabel(this, "Label2", "Water", "Shows the water tiles");
     Label3 = ui::MakeClickLabel(this, "Label3", "Plants", "Shows the water plants");
@@ -73,9 +68,11 @@ QLayout* frmCoastlines::MakeKinds()
     frames_ = new QStackedLayout;
     frames_->addWidget(fraType);
     frames_->addWidget(fraType2);
-    auto* kinds = new QVBoxLayout;
-    kinds->addLayout(choice);
-    kinds->addLayout(frames_, 1);
+    auto* kinds = new QWidget(this);
+    auto* layout = new QVBoxLayout(kinds);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->addLayout(choice);
+    layout->addLayout(frames_, 1);
     ShowKind(CoastKind::Water);
     return kinds;
 }

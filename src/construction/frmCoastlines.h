@@ -14,7 +14,7 @@ class frmCoastlines final : public ConstructionPanel {
     explicit frmCoastlines(ui::AppContext& context);
 
   private:
-    QLayout* MakeKinds();
+    QWidget* MakeKinds();
 
     CoastlinesState State() const;
 

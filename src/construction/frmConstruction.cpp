@@ -59,6 +59,31 @@ void ConstructionPanel::Compose(QLayout* body, QLayout* bottomRow)
     all->addLayout(bottomRow);
 }
 
+QLayout* ConstructionPanel::MakeBody(const Body& body)
+{
+    auto* upper = new QHBoxLayout;
+    upper->addLayout(body.choices, 1);
+    upper->addWidget(body.preview);
+    auto* right = new QVBoxLayout;
+    right->addLayout(upper, 1);
+    right->addWidget(body.corners);
+    right->addWidget(body.height);
+    auto* all = new QHBoxLayout;
+    all->addWidget(body.kinds, 1);
+    all->addLayout(right);
+    return all;
+}
+
+QLayout* ConstructionPanel::MakeColumn(std::initializer_list<QWidget*> frames)
+{
+    auto* column = new QVBoxLayout;
+    for (auto* frame : frames) {
+        column->addWidget(frame);
+    }
+    column->addStretch(1);
+    return column;
+}
+
 QGroupBox* ConstructionPanel::MakeCoordinateFrame()
 {
     auto* frame = ui::MakeFrame(this, "fraCoordinates", "Coordinates");

@@ -72,6 +72,19 @@ class ConstructionPanel : public ui::Panel {
     /// The title above `body`, and both with the bottom row as the panel's layout.
     void Compose(QLayout* body, QLayout* bottomRow);
 
+    /// What the body of a panel is made of, in the order in which the keyboard goes through it.
+    struct Body {
+        QWidget*   kinds;   ///< what may be added, on the left
+        QLayout*   choices; ///< how it is added
+        QGroupBox* preview; ///< the picture beside the choices
+        QGroupBox* corners; ///< below them the coordinates
+        QGroupBox* height;  ///< and the heights
+    };
+    static QLayout* MakeBody(const Body& body);
+
+    /// Frames one below the other, as high as they need to be.
+    static QLayout* MakeColumn(std::initializer_list<QWidget*> frames);
+
     /// "Coordinates": a row of X, Y and position button for each corner.
     QGroupBox* MakeCoordinateFrame();
 

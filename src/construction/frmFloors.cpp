@@ -32,22 +32,11 @@ frmFloors::frmFloors(ui::AppContext& context)
     useZCheck->setObjectName(QStringLiteral("useZCheck"));
     static_cast<QVBoxLayout*>(method->layout())->insertWidget(1, useZCheck);
 
-    auto* choices = new QVBoxLayout;
-    choices->addWidget(direction);
-    choices->addWidget(method);
-    choices->addStretch(1);
-    auto* upper = new QHBoxLayout;
-    upper->addLayout(choices, 1);
-    upper->addWidget(MakePreviewFrame());
-
-    auto* right = new QVBoxLayout;
-    right->addLayout(upper, 1);
-    right->addWidget(MakeCoordinateFrame());
-    right->addWidget(MakeHeightFrame(optHeightFloor));
-
-    auto* body = new QHBoxLayout;
-    body->addWidget(tabFloor, 1);
-    body->addLayout(right);
+    auto* body = MakeBody({.kinds = tabFloor,
+                           .choices = MakeColumn({direction, method}),
+                           .preview = MakePreviewFrame(),
+                           .corners = MakeCoordinateFrame(),
+                           .height = MakeHeightFrame(optHeightFloor)});
 
     const CommandButton buttons[] = {
         {"cmdAddFloor", "Add", [this] { AddFloor(State(), Generation(), Outlet()); }, "Lays the chosen floor"},

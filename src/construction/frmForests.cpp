@@ -40,16 +40,11 @@ frmForests::frmForests(ui::AppContext& context)
     choices->addWidget(fraNumber, 1, 1, 2, 1);
     choices->addWidget(fraDirection, 2, 0);
     choices->setRowStretch(3, 1);
-    auto* upper = new QHBoxLayout;
-    upper->addLayout(choices, 1);
-    upper->addWidget(MakePictureFrame());
-    auto* right = new QVBoxLayout;
-    right->addLayout(upper, 1);
-    right->addWidget(MakeCoordinateFrame());
-    right->addWidget(MakeBaseHeightFrame());
-    auto* body = new QHBoxLayout;
-    body->addWidget(tabForest, 1);
-    body->addLayout(right);
+    auto* body = MakeBody({.kinds = tabForest,
+                           .choices = choices,
+                           .preview = MakePictureFrame(),
+                           .corners = MakeCoordinateFrame(),
+                           .height = MakeBaseHeightFrame()});
 
     const auto add = [this] {
         AddForest(State(), Generation(), Context().environment.uniform, Outlet(),

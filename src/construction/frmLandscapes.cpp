@@ -28,16 +28,11 @@ frmLandscapes::frmLandscapes(ui::AppContext& context)
                    [this](int index) { AddLandscapePiece(State(), index, Generation(), Outlet()); });
     auto* method = MakeOptionFrame("fraAddMethod", "Add method", optAddMethod, {"Point'n Click", "Coordinates"});
 
-    auto* upper = new QHBoxLayout;
-    upper->addWidget(method, 1);
-    upper->addWidget(MakePreviewFrame());
-    auto* right = new QVBoxLayout;
-    right->addLayout(upper, 1);
-    right->addWidget(MakeCoordinateFrame());
-    right->addWidget(MakeBaseHeightFrame());
-    auto* body = new QHBoxLayout;
-    body->addWidget(types, 1);
-    body->addLayout(right);
+    auto* body = MakeBody({.kinds = types,
+                           .choices = MakeColumn({method}),
+                           .preview = MakePreviewFrame(),
+                           .corners = MakeCoordinateFrame(),
+                           .height = MakeBaseHeightFrame()});
 
     const CommandButton buttons[] = {
         {"cmdAdd", "Add", [this] { AddLandscape(State(), Generation(), Outlet()); }, "Lays the chosen ground"},

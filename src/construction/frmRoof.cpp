@@ -32,22 +32,11 @@ frmRoof::frmRoof(ui::AppContext& context)
     MakeTabs();
     auto* direction = MakeOptionFrame("fraDirection", "Direction", optDirection, {"North/South", "East/West"});
 
-    auto* choices = new QVBoxLayout;
-    choices->addWidget(direction);
-    choices->addWidget(MakeSingleTileFrame());
-    choices->addStretch(1);
-    auto* upper = new QHBoxLayout;
-    upper->addLayout(choices, 1);
-    upper->addWidget(MakePreviewFrame());
-
-    auto* right = new QVBoxLayout;
-    right->addLayout(upper, 1);
-    right->addWidget(MakeCoordinateFrame());
-    right->addWidget(MakeHeightFrame(optFloor));
-
-    auto* body = new QHBoxLayout;
-    body->addWidget(tabRoof, 1);
-    body->addLayout(right);
+    auto* body = MakeBody({.kinds = tabRoof,
+                           .choices = MakeColumn({direction, MakeSingleTileFrame()}),
+                           .preview = MakePreviewFrame(),
+                           .corners = MakeCoordinateFrame(),
+                           .height = MakeHeightFrame(optFloor)});
 
     const CommandButton buttons[] = {
         {"cmdAddRoof", "Add Roof", [this] { AddRoof(State(), Generation(), Outlet()); }, "Covers the box"},

@@ -40,15 +40,12 @@ frmStairs::frmStairs(ui::AppContext& context)
       optStairStart(*this, "optStairStart"),
       optStairEnd(*this, "optStairEnd")
 {
-    auto* choices = new QVBoxLayout;
-    choices->addWidget(MakeDirectionFrame());
-    choices->addWidget(MakeModeFrame());
-    choices->addStretch(1);
     auto* middle = new QHBoxLayout;
     middle->addWidget(MakeMaterialFrame(), 1);
-    middle->addLayout(choices);
+    middle->addLayout(MakeColumn({MakeDirectionFrame(), MakeModeFrame()}));
     middle->addWidget(MakePreviewFrame());
 
+    auto* places = MakeColumn({MakeCoordinateFrame(), MakeBaseHeightFrame()});
     fraStairStart = MakeFlightEndFrame({"fraStairStart",
                                         "Stairs Start at",
                                         {"1st Floor", "2nd Floor", "3rd Floor", "4th Floor"},
@@ -65,10 +62,6 @@ frmStairs::frmStairs(ui::AppContext& context)
                                        "txtCustomEnd",
                                        1},
                                       optStairEnd);
-    auto* places = new QVBoxLayout;
-    places->addWidget(MakeCoordinateFrame());
-    places->addWidget(MakeBaseHeightFrame());
-    places->addStretch(1);
     auto* lower = new QHBoxLayout;
     lower->addLayout(places, 1);
     lower->addWidget(fraStairStart);

@@ -39,19 +39,11 @@ frmWalls::frmWalls(ui::AppContext& context)
     choices->addWidget(fraDirection, 1, 0);
     choices->addWidget(wallHeight, 1, 1);
     choices->setRowStretch(2, 1);
-    auto* upper = new QHBoxLayout;
-    upper->addLayout(choices, 1);
-    upper->addWidget(MakePreviewFrame());
-
-    fraHeight = MakeHeightFrame(optFloor);
-    auto* right = new QVBoxLayout;
-    right->addLayout(upper, 1);
-    right->addWidget(MakeCoordinateFrame());
-    right->addWidget(fraHeight);
-
-    auto* body = new QHBoxLayout;
-    body->addWidget(types, 1);
-    body->addLayout(right);
+    auto* body = MakeBody({.kinds = types,
+                           .choices = choices,
+                           .preview = MakePreviewFrame(),
+                           .corners = MakeCoordinateFrame(),
+                           .height = (fraHeight = MakeHeightFrame(optFloor))});
 
     const CommandButton buttons[] = {
         {"cmdAdd", "Add", [this] { AddWall(State(), Generation(), Outlet()); }, "Builds the chosen wall"},
