@@ -1,7 +1,6 @@
 #include "world/frmHouseTemplates.h"
 
 #include <QGridLayout>
-#include <QGuiApplication>
 #include <QHBoxLayout>
 #include <QVBoxLayout>
 #include <QWindow>
@@ -31,16 +30,6 @@ struct PlaceBox {
 constexpr std::array placeBoxes{PlaceBox{"txtX", "X"}, PlaceBox{"txtY", "Y"}, PlaceBox{"txtCurrentHeight", "Z"}};
 
 constexpr ui::PositionRow positionRow{"cmdwhere1", "txtX", "txtY", "txtCurrentHeight", "txtX"};
-
-/// Selects the whole text. A click that brings the focus sets the cursor only after this, so the selection is
-/// made again behind it.
-void SelectWhole(QLineEdit& box)
-{
-    box.selectAll();
-    if (QGuiApplication::mouseButtons() != Qt::NoButton) {
-        QMetaObject::invokeMethod(&box, "selectAll", Qt::QueuedConnection);
-    }
-}
 
 } // namespace
 
@@ -93,7 +82,7 @@ QGroupBox* frmHouseTemplates::MakePlaceFrame()
     int   column = 0;
     for (const auto& place : placeBoxes) {
         auto* box = ui::MakeTextBox(frame, place.name, CoordinateDigits);
-        OnFocus(*box, [box] { SelectWhole(*box); });
+        OnFocus(*box, [box] { ui::SelectWhole(*box); });
         layout->addWidget(ui::MakeLabelFor(box, "", place.caption), 1, column++);
         layout->addWidget(box, 1, column);
         layout->setColumnStretch(column++, 1);

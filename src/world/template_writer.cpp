@@ -18,6 +18,9 @@ namespace {
 constexpr int         BadFileName = 52;
 constexpr const char* BadFileNameText = "Bad file name or number";
 
+constexpr std::string_view Extension = ".tmp";
+constexpr std::size_t      LongestFileName = 255;
+
 [[noreturn]] void FailFor(std::errc reason)
 {
     switch (reason) {
@@ -41,14 +44,16 @@ bool IsTaken(const fs::path& file)
 
 TemplateWriter::TemplateWriter(std::string_view programFolder, std::string_view name)
 {
-    if (name.find('\0') != std::string_view::npos) {
+    // Systems tell differently of a name that is too long for them, so it is found out here.
+    const auto lastPart = name.substr(name.rfind('\\') + 1);
+    if (name.find('\0') != std::string_view::npos || lastPart.size() + Extension.size() > LongestFileName) {
         FailFor(std::errc::invalid_argument);
     }
     const auto start = std::string(programFolder) + "\\Templates\\" + std::string(name);
-    path_ = start + ".tmp";
+    path_ = start + std::string(Extension);
     auto file = core::HostPath(path_);
     for (std::int32_t number = 0; IsTaken(file); number = core::Add32(number, 1)) {
-        path_ = start + core::ToText(number) + ".tmp";
+        path_ = start + core::ToText(number) + std::string(Extension);
         file = core::HostPath(path_);
     }
     errno = 0;
