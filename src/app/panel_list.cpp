@@ -5,6 +5,7 @@
 #include "app/frmMain.h"
 #include "app/frmOptions.h"
 #include "app/frmSplash.h"
+#include "console/frmGMCommands.h"
 #include "console/frmWipe.h"
 #include "construction/frmCaves.h"
 #include "construction/frmCoastlines.h"
@@ -53,6 +54,7 @@ constexpr std::array panelList{
     ui::PanelEntry{"frmSpecial",         Make<items::frmSpecial>},
     ui::PanelEntry{"frmItemPos",         Make<items::frmItemPos>},
     ui::PanelEntry{"frmLightSource",     Make<items::frmLightSource>},
+    ui::PanelEntry{"frmGMCommands",      Make<console::frmGMCommands>},
     ui::PanelEntry{"frmWipe",            Make<console::frmWipe>},
     ui::PanelEntry{"frmHouseExtraction", Make<world::frmHouseExtraction>},
     ui::PanelEntry{"frmHouseTemplates",  Make<world::frmHouseTemplates>},

@@ -18,6 +18,8 @@ class OptionArray {
     OptionArray(const OptionArray&) = delete;
     OptionArray& operator=(const OptionArray&) = delete;
 
+    const std::string& Name() const { return name_; }
+
     /// Makes the member with this index.
     QRadioButton& Add(int index, std::string_view caption, QWidget* parent);
 
