@@ -31,23 +31,44 @@ namespace {
 
 using namespace qf;
 
-/// What is chosen and typed on a panel before its picture is taken: "control", "control=text" for a box, or
-/// "control=number" for a list's row, a bar's value or a tab, by panel, and ">text" for a box that this brings up.
-/// A picture that takes the focus gets it.
-using Poses = std::map<std::string, std::vector<std::string>>;
+/// A picture of a panel: what its file name has behind the panel's, and what is chosen and typed before it is taken:
+/// "control", "control=text" for a box, or "control=number" for a list's row, a bar's value or a tab, and ">text" for
+/// a box that this brings up. A picture surface that takes the focus gets it.
+struct Picture {
+    std::string              suffix;
+    std::vector<std::string> poses;
+};
 
-Poses ReadPoses(const std::string& file)
+/// The pictures by panel, in the order in which they are taken.
+using Pictures = std::map<std::string, std::vector<Picture>>;
+
+Pictures ReadPictures(const std::string& file)
 {
-    Poses         poses;
+    Pictures      pictures;
     std::ifstream stream(file);
     std::string   line;
     while (std::getline(stream, line)) {
         const auto blank = line.find(' ');
-        if (blank != std::string::npos && line.front() != '#') {
-            poses[line.substr(0, blank)].push_back(line.substr(blank + 1));
+        if (blank == std::string::npos || line.front() == '#') {
+            continue;
+        }
+        auto        pose = line.substr(blank + 1);
+        std::string suffix;
+        if (pose.starts_with('@')) {
+            const auto end = pose.find(' ');
+            suffix = '-' + pose.substr(1, end - 1);
+            pose = end == std::string::npos ? std::string() : pose.substr(end + 1);
+        }
+        auto& ofPanel = pictures[line.substr(0, blank)];
+        auto  picture = std::ranges::find(ofPanel, suffix, &Picture::suffix);
+        if (picture == ofPanel.end()) {
+            picture = ofPanel.insert(ofPanel.end(), {suffix, {}});
+        }
+        if (!pose.empty()) {
+            picture->poses.push_back(pose);
         }
     }
-    return poses;
+    return pictures;
 }
 
 /// Puts a small house into the world.
@@ -102,6 +123,22 @@ bool Strike(ui::Panel& panel, const std::string& pose)
         return control != nullptr && panel.InvokeClick(*control);
     }
     return true;
+}
+
+/// Strikes the poses of a picture; false, with a line on the error stream, where one has no control.
+bool StrikeAll(ui::Panel& panel, const Picture& picture, std::vector<std::string>& boxes)
+{
+    bool complete = true;
+    for (const auto& pose : picture.poses) {
+        if (pose.starts_with('>')) {
+            complete = std::erase(boxes, pose.substr(1)) == 1 && complete;
+        } else if (!Strike(panel, pose)) {
+            std::cerr << panel.Name() << ": no control for " << pose << '\n';
+            complete = false;
+        }
+    }
+    QApplication::processEvents();
+    return complete;
 }
 
 void WriteControls(std::ofstream& out, const ui::Panel& panel)
@@ -175,7 +212,7 @@ int main(int argumentCount, char** arguments)
     }
 
     Furnish(*run.Context().database);
-    const auto    poses = ReadPoses(options["--poses"]);
+    auto          pictures = ReadPictures(options["--poses"]);
     const auto    target = ui::Text(options["--screenshots"]);
     std::ofstream controls;
     if (options.contains("--controls")) {
@@ -184,24 +221,20 @@ int main(int argumentCount, char** arguments)
     bool complete = true;
     for (const auto& entry : app::AllPanels()) {
         auto& panel = run.Context().panels.Show(entry.name);
-        if (const auto found = poses.find(std::string(entry.name)); found != poses.end()) {
-            for (const auto& pose : found->second) {
-                if (pose.starts_with('>')) {
-                    complete = std::erase(services.boxes, pose.substr(1)) == 1 && complete;
-                } else if (!Strike(panel, pose)) {
-                    std::cerr << entry.name << ": no control for " << pose << '\n';
-                    complete = false;
-                }
+        auto& ofPanel = pictures[std::string(entry.name)];
+        if (std::ranges::find(ofPanel, std::string(), &Picture::suffix) == ofPanel.end()) {
+            ofPanel.insert(ofPanel.begin(), Picture{});
+        }
+        for (const auto& picture : ofPanel) {
+            complete = StrikeAll(panel, picture, services.boxes) && complete;
+            if (!target.isEmpty()) {
+                QDir().mkpath(target);
+                const auto name = std::string(entry.name) + picture.suffix + ".png";
+                complete = panel.grab().save(target + QLatin1Char('/') + ui::Text(name)) && complete;
             }
-        }
-        QApplication::processEvents();
-        if (!target.isEmpty()) {
-            QDir().mkpath(target);
-            complete =
-                panel.grab().save(target + QLatin1Char('/') + ui::Text(entry.name) + QLatin1String(".png")) && complete;
-        }
-        if (controls.is_open()) {
-            WriteControls(controls, panel);
+            if (controls.is_open() && picture.suffix.empty()) {
+                WriteControls(controls, panel);
+            }
         }
         panel.hide();
     }
