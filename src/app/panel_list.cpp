@@ -5,7 +5,15 @@
 #include "app/frmMain.h"
 #include "app/frmOptions.h"
 #include "app/frmSplash.h"
+#include "console/frmAreaCommands.h"
 #include "console/frmGMCommands.h"
+#include "console/frmNPC.h"
+#include "console/frmNPCWander.h"
+#include "console/frmPrivs.h"
+#include "console/frmShop.h"
+#include "console/frmShutdown.h"
+#include "console/frmTime.h"
+#include "console/frmType.h"
 #include "console/frmWipe.h"
 #include "construction/frmCaves.h"
 #include "construction/frmCoastlines.h"
@@ -55,7 +63,15 @@ constexpr std::array panelList{
     ui::PanelEntry{"frmItemPos",         Make<items::frmItemPos>},
     ui::PanelEntry{"frmLightSource",     Make<items::frmLightSource>},
     ui::PanelEntry{"frmGMCommands",      Make<console::frmGMCommands>},
+    ui::PanelEntry{"frmShutdown",        Make<console::frmShutdown>},
+    ui::PanelEntry{"frmTime",            Make<console::frmTime>},
+    ui::PanelEntry{"frmType",            Make<console::frmType>},
+    ui::PanelEntry{"frmPrivs",           Make<console::frmPrivs>},
+    ui::PanelEntry{"frmAreaCommands",    Make<console::frmAreaCommands>},
+    ui::PanelEntry{"frmShop",            Make<console::frmShop>},
     ui::PanelEntry{"frmWipe",            Make<console::frmWipe>},
+    ui::PanelEntry{"frmNPC",             Make<console::frmNPC>},
+    ui::PanelEntry{"frmNPCWander",       Make<console::frmNPCWander>},
     ui::PanelEntry{"frmHouseExtraction", Make<world::frmHouseExtraction>},
     ui::PanelEntry{"frmHouseTemplates",  Make<world::frmHouseTemplates>},
     ui::PanelEntry{"frmDye",             Make<gamedata::frmDye>},

@@ -1,0 +1,37 @@
+#pragma once
+
+#include <array>
+#include <span>
+#include <string_view>
+
+#include "core/generation.h"
+#include "core/outlet.h"
+#include "items/words.h"
+
+namespace qf::console {
+
+/// A button that sends its words alone. `group` is the frame on which it stands, empty for none.
+struct WanderCommand {
+    std::string_view group;
+    std::string_view name;
+    std::string_view caption;
+    items::Words     words;
+    std::string_view toolTip;
+};
+
+/// The buttons that set how an NPC moves about and what it follows.
+std::span<const WanderCommand> WanderCommands();
+
+void SendWander(const WanderCommand& command, core::ServerGeneration generation, core::Outlet& outlet);
+
+/// The rectangle in which an NPC wanders, as it is typed: X and Y of one corner and of the other. Sent to the two
+/// known generations alone.
+void SendWanderBox(const std::array<std::string_view, 4>& corners, core::ServerGeneration generation,
+                   core::Outlet& outlet);
+
+/// The circle in which an NPC wanders, as it is typed: X and Y of its centre and the radius. Sent to the two known
+/// generations alone.
+void SendWanderCircle(const std::array<std::string_view, 3>& circle, core::ServerGeneration generation,
+                      core::Outlet& outlet);
+
+} // namespace qf::console
