@@ -2,6 +2,7 @@
 
 #include <functional>
 #include <optional>
+#include <string>
 
 #include "app/application.h"
 #include "client/platform/simulated/simulated_platform.h"
@@ -16,11 +17,11 @@ namespace qf::test {
 /// The program on a simulated desktop with a client in front, its settings in memory.
 class ProgramOnStage {
   public:
-    ProgramOnStage()
+    explicit ProgramOnStage(int generation = 1)
     {
         world::CreateWorldDatabase(folder_.Path() / "qf.mdb");
         folder_.MakeFolder("Templates");
-        store.Write(core::section::Configuration, "ZarnVer", "1");
+        store.Write(core::section::Configuration, "ZarnVer", std::to_string(generation));
         platform.SetForeground(platform.AddWindow("SDL_app", "ClassicUO"));
         environment_.emplace(ui::Environment{store, platform, services, services, services, services, services,
                                              services, uniform_, core::ProgramPath(folder_.Path())});

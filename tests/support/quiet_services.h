@@ -9,7 +9,7 @@
 namespace qf::test {
 
 /// The services of a desktop with nobody in front of it: boxes are kept and answered Yes, dialogs are
-/// cancelled, nothing is started.
+/// cancelled, nothing is started, which is only counted.
 class QuietServices final : public ui::MessageBoxes,
                             public ui::FileDialogs,
                             public ui::Clipboard,
@@ -23,12 +23,16 @@ class QuietServices final : public ui::MessageBoxes,
         boxes.push_back(message.text);
         return true;
     }
-    std::string OpenFile(const ui::FileDialogRequest& request) override { return request.fileName; }
-    void        SetText(std::string_view) override {}
-    void        OpenAddress(std::string_view) override {}
-    void        StartProgram(std::string_view, std::string_view) override {}
-    bool        AnotherInstanceRuns() override { return false; }
-    void        Check() override
+    std::string OpenFile(const ui::FileDialogRequest& request) override
+    {
+        ++errands;
+        return request.fileName;
+    }
+    void SetText(std::string_view) override { ++errands; }
+    void OpenAddress(std::string_view) override { ++errands; }
+    void StartProgram(std::string_view, std::string_view) override { ++errands; }
+    bool AnotherInstanceRuns() override { return false; }
+    void Check() override
     {
         if (missingComponent != 0) {
             throw core::RuntimeError(missingComponent);
@@ -36,6 +40,9 @@ class QuietServices final : public ui::MessageBoxes,
     }
 
     std::vector<std::string> boxes;
+
+    /// How often the clipboard, a file dialog, an address or a program was asked for.
+    int errands = 0;
 
     /// The error that tells of a missing component, 0 where all are there.
     int missingComponent = 0;
