@@ -156,7 +156,8 @@ void WriteControls(std::ofstream& out, const ui::Panel& panel)
 
 int Usage()
 {
-    std::cerr << "quernfield-panels [--poses FILE] [--screenshots FOLDER] [--controls FILE] [--client-folder FOLDER]\n";
+    std::cerr << "quernfield-panels [--poses FILE] [--screenshots FOLDER] [--controls FILE] [--client-folder FOLDER] "
+                 "[--generation 0|1]\n";
     return 2;
 }
 
@@ -191,7 +192,8 @@ int main(int argumentCount, char** arguments)
     }
 
     test::MemoryStore store;
-    store.Write(core::section::Configuration, "ZarnVer", "1");
+    const auto        generation = options.find("--generation");
+    store.Write(core::section::Configuration, "ZarnVer", generation == options.end() ? "1" : generation->second);
     store.Write(core::section::Configuration, "UOPath", "\\nowhere\\");
     if (const auto client = options.find("--client-folder"); client != options.end()) {
         const auto path = core::ProgramPath(std::filesystem::absolute(client->second));
