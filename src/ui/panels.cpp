@@ -1,5 +1,6 @@
 #include "ui/panels.h"
 
+#include <QCoreApplication>
 #include <QWindow>
 #include <algorithm>
 #include <utility>
@@ -16,6 +17,9 @@ Panels::~Panels()
     while (!loaded_.empty()) {
         loaded_.pop_back();
     }
+    // Panels that were unloaded within one of their own handlers still wait to be deleted; their timers must not
+    // outlive what they work on.
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
 }
 
 bool Panels::Has(std::string_view name) const
