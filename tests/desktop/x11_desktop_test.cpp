@@ -110,7 +110,7 @@ TEST_P(X11Desktops, WindowsAreListedTopmostFirst)
     platform_->BringToForeground(second.Window());
     EXPECT_TRUE(test::Eventually([&] { return Windows().front().handle == second.Window(); }));
     EXPECT_EQ(Windows().back().handle, first.Window());
-    EXPECT_EQ(platform_->ForegroundWindow(), second.Window());
+    EXPECT_TRUE(test::Eventually([&] { return platform_->ForegroundWindow() == second.Window(); }));
 
     int visits = 0;
     platform_->EnumerateWindows([&visits](const WindowInfo&) {
