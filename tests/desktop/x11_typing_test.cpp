@@ -170,10 +170,10 @@ TEST_P(X11TypingManaged, ClientBehindAnotherWindowComesToTheFront)
         return otherWindow == 0;
     });
     platform_->BringToForeground(otherWindow);
-    ASSERT_EQ(platform_->ForegroundWindow(), otherWindow);
+    ASSERT_TRUE(test::Eventually([&] { return platform_->ForegroundWindow() == otherWindow; }));
 
     ExpectArrival({"go 1000 1000 0", "save"});
-    EXPECT_EQ(platform_->ForegroundWindow(), FindClientWindow(*platform_));
+    EXPECT_TRUE(test::Eventually([&] { return platform_->ForegroundWindow() == FindClientWindow(*platform_); }));
     EXPECT_THAT(other.Lines(), IsEmpty());
 }
 
