@@ -98,19 +98,15 @@ QGroupBox* frmHouseTemplates::MakePlaceFrame()
 QGroupBox* frmHouseTemplates::MakeClientFrame()
 {
     auto* frame = ui::MakeFrame(this, "", "In the game");
-    auto* container = ui::MakeButton(frame, "cmdSetContainer", "Set as Container:", "Makes a container of an item");
-    auto* door = ui::MakeButton(frame, "cmdSetDoor", "Set as Door:", "Makes a door of an item");
-    auto* where = ui::MakeButton(frame, "cmdWhere", "Where am I?", "Asks the server for your place");
-    auto* wipe = ui::MakeButton(frame, "cmdWipeMenu", "Wipe Menu", "Opens the wipe panel");
-    OnClick(*container, [this] { Outlet().Send("settype 1"); });
-    OnClick(*door, [this] { Outlet().Send("settype 12"); });
-    OnClick(*where, [this] { Outlet().Send("where"); });
-    OnClick(*wipe, [this] { OpenWipe(); });
-
     auto* layout = new QVBoxLayout(frame);
-    for (auto* button : {container, door, where, wipe}) {
+    for (const auto& row : TemplateCommands()) {
+        auto* button = ui::MakeButton(frame, row.button, row.caption, row.hint);
+        OnClick(*button, [this, &row] { Outlet().Send(row.command); });
         layout->addWidget(button);
     }
+    auto* wipe = ui::MakeButton(frame, "cmdWipeMenu", "Wipe Menu", "Opens the wipe panel");
+    OnClick(*wipe, [this] { OpenWipe(); });
+    layout->addWidget(wipe);
     layout->addStretch(1);
     return frame;
 }

@@ -100,4 +100,16 @@ void BuildTemplate(std::string_view path, const BuildBoxes& boxes, core::ServerG
     }
 }
 
+std::span<const TemplateCommand> TemplateCommands()
+{
+    // clang-format off
+    static constexpr TemplateCommand commands[] = {
+        {"cmdSetContainer", "Set as Container:", "settype 1",  "Makes a container of an item"},
+        {"cmdSetDoor",      "Set as Door:",      "settype 12", "Makes a door of an item"},
+        {"cmdWhere",        "Where am I?",       "where",      "Asks the server for your place"},
+    };
+    // clang-format on
+    return commands;
+}
+
 } // namespace qf::world

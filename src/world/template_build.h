@@ -1,6 +1,7 @@
 #pragma once
 
 #include <functional>
+#include <span>
 #include <string>
 #include <string_view>
 
@@ -29,5 +30,15 @@ void BuildTemplate(std::string_view path, const BuildBoxes& boxes, core::ServerG
 /// Throws RuntimeError 13 or 6 where a field is no number or a place does not fit 32 bits.
 void BuildTemplateLines(TextLines& lines, const BuildPoint& point, core::ServerGeneration generation,
                         core::Outlet& outlet);
+
+/// A button of the template panel that sends one text, the same in both generations.
+struct TemplateCommand {
+    std::string_view button;
+    std::string_view caption;
+    std::string_view command;
+    std::string_view hint;
+};
+
+std::span<const TemplateCommand> TemplateCommands();
 
 } // namespace qf::world

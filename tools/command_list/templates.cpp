@@ -41,6 +41,13 @@ void WriteTemplates(std::ostream& out)
         });
     }
     out << '\n';
+
+    Heading(out, "Control", true);
+    for (const auto& row : world::TemplateCommands()) {
+        CommandRow(out, {Code(row.button), std::string(row.caption)},
+                   [&](core::ServerGeneration, core::Outlet& outlet) { outlet.Send(row.command); });
+    }
+    out << '\n';
 }
 
 } // namespace qf::commands
