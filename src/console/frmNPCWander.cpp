@@ -5,6 +5,7 @@
 #include <QVBoxLayout>
 #include <algorithm>
 
+#include "ui/corner_row.h"
 #include "ui/parts.h"
 
 namespace qf::console {
@@ -87,15 +88,13 @@ QGroupBox* frmNPCWander::MakeBoxFrame(QWidget* parent)
     auto* layout = new QGridLayout(frame);
     for (const int corner : {1, 2}) {
         const auto number = std::to_string(corner);
-        auto*      x = ui::MakeTextBox(frame, "txtX" + number, CoordinateDigits);
-        auto*      y = ui::MakeTextBox(frame, "txtY" + number, CoordinateDigits);
-        auto*      where =
-            ui::MakeButton(frame, "cmdwhere" + number, "X" + number + " Y" + number, "Takes the place where you stand");
-        layout->addWidget(ui::MakeLabelFor(x, "", "X" + number), corner, 0);
-        layout->addWidget(x, corner, 1);
-        layout->addWidget(ui::MakeLabelFor(y, "", "Y" + number), corner, 2);
-        layout->addWidget(y, corner, 3);
-        layout->addWidget(where, corner, 4);
+        const auto labelX = "X" + number;
+        const auto labelY = "Y" + number;
+        const auto boxX = "txtX" + number;
+        const auto boxY = "txtY" + number;
+        ui::AddCornerRow(frame, *layout, corner, {boxX, boxY, labelX, labelY}, CoordinateDigits, [&] {
+            return ui::MakeButton(frame, "cmdwhere" + number, labelX + " " + labelY, "Takes the place where you stand");
+        });
     }
     auto* set = ui::MakeButton(frame, "cmdSetBox", "Set Box", "Sets the box in which the NPC may wander");
     OnClick(*set, [this] {

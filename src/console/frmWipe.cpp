@@ -7,6 +7,7 @@
 #include <QVBoxLayout>
 #include <array>
 
+#include "ui/corner_row.h"
 #include "ui/parts.h"
 
 namespace qf::console {
@@ -119,15 +120,13 @@ QGroupBox* frmWipe::MakeCoordinateFrame()
     layout->addWidget(ui::MakeLabel(frame, "Label11", "Enter coordinates:"), 0, 0, 1, 5);
     for (const int corner : {1, 2}) {
         const auto number = std::to_string(corner);
-        auto*      x = ui::MakeTextBox(frame, "x" + number, CoordinateDigits);
-        auto*      y = ui::MakeTextBox(frame, "y" + number, CoordinateDigits);
-        auto*      where =
-            ui::MakeButton(frame, "cmdwhere" + number, "X" + number + " Y" + number, "Takes the place where you stand");
-        layout->addWidget(ui::MakeLabelFor(x, "", "X" + number), corner, 0);
-        layout->addWidget(x, corner, 1);
-        layout->addWidget(ui::MakeLabelFor(y, "", "Y" + number), corner, 2);
-        layout->addWidget(y, corner, 3);
-        layout->addWidget(where, corner, 4);
+        const auto labelX = "X" + number;
+        const auto labelY = "Y" + number;
+        const auto boxX = "x" + number;
+        const auto boxY = "y" + number;
+        ui::AddCornerRow(frame, *layout, corner, {boxX, boxY, labelX, labelY}, CoordinateDigits, [&] {
+            return ui::MakeButton(frame, "cmdwhere" + number, labelX + " " + labelY, "Takes the place where you stand");
+        });
     }
     for (const auto& row : positionRows) {
         AddPositionControl(row);

@@ -6,6 +6,7 @@
 
 #include "core/number_rules.h"
 #include "core/tile_id.h"
+#include "ui/corner_row.h"
 #include "ui/parts.h"
 
 namespace qf::construction {
@@ -13,14 +14,6 @@ namespace qf::construction {
 namespace {
 
 constexpr int CoordinateDigits = 6;
-
-/// The boxes of one corner.
-struct Corner {
-    std::string_view boxX;
-    std::string_view boxY;
-    std::string_view labelX;
-    std::string_view labelY;
-};
 
 /// A control that takes the player's place or height: a button, or a label that does its work.
 struct FetchRow {
@@ -32,8 +25,8 @@ struct FetchRow {
 
 // clang-format off
 constexpr std::array corners{
-    Corner{"txtX1", "txtY1", "X1", "Y1"},
-    Corner{"txtX2", "txtY2", "X2", "Y2"},
+    ui::CornerRow{"txtX1", "txtY1", "X1", "Y1"},
+    ui::CornerRow{"txtX2", "txtY2", "X2", "Y2"},
 };
 
 constexpr std::array fetchRows{
@@ -91,14 +84,7 @@ QGroupBox* ConstructionPanel::MakeCoordinateFrame()
     int   line = 0;
     for (const auto& corner : corners) {
         const auto fetch = line == 0 ? Fetch::Corner1 : Fetch::Corner2;
-        auto*      x = ui::MakeTextBox(frame, corner.boxX, CoordinateDigits);
-        auto*      y = ui::MakeTextBox(frame, corner.boxY, CoordinateDigits);
-        auto*      where = MakeFetch(frame, fetch);
-        layout->addWidget(ui::MakeLabelFor(x, "", corner.labelX), line, 0);
-        layout->addWidget(x, line, 1);
-        layout->addWidget(ui::MakeLabelFor(y, "", corner.labelY), line, 2);
-        layout->addWidget(y, line, 3);
-        layout->addWidget(where, line, 4);
+        ui::AddCornerRow(frame, *layout, line, corner, CoordinateDigits, [&] { return MakeFetch(frame, fetch); });
         AddPositionControl(
             {FetchName(fetch), corner.boxX, corner.boxY, "", traits_.testsY ? corner.boxY : corner.boxX});
         ++line;

@@ -1,26 +1,11 @@
 #include "gamedata/explorer.h"
 
-#include <array>
-#include <charconv>
-
 #include "core/number_rules.h"
+#include "core/tile_id.h"
 
 namespace qf::gamedata {
 
 namespace {
-
-/// "0x" and the number's 32-bit pattern in upper-case hexadecimal without leading zeros.
-std::string HexText(std::int32_t number)
-{
-    std::array<char, 8> digits{};
-    const auto          end =
-        std::to_chars(digits.data(), digits.data() + digits.size(), static_cast<std::uint32_t>(number), 16);
-    std::string text = "0x";
-    for (const char* digit = digits.data(); digit != end.ptr; ++digit) {
-        text += *digit >= 'a' ? static_cast<char>(*digit - 'a' + 'A') : *digit;
-    }
-    return text;
-}
 
 std::string_view AddWord(AddModes modes, core::ServerGeneration generation)
 {
@@ -37,7 +22,7 @@ std::string AddCommand(std::int32_t id, AddModes modes, core::ServerGeneration g
     if (!generation.Is070() && !generation.Is09()) {
         return {};
     }
-    return std::string(AddWord(modes, generation)) + HexText(id);
+    return std::string(AddWord(modes, generation)) + core::HexNumberText(id);
 }
 
 void AddItem(std::string_view tag, AddModes modes, core::ServerGeneration generation, core::Outlet& outlet)
@@ -58,7 +43,7 @@ void RemoveItem(core::ServerGeneration generation, core::Outlet& outlet)
 
 std::string ModelIdText(std::int32_t id)
 {
-    return HexText(id) + " (" + std::to_string(id) + ")";
+    return core::HexNumberText(id) + " (" + std::to_string(id) + ")";
 }
 
 std::string CopiedPart(std::string_view modelId)
