@@ -3,14 +3,11 @@
 #include <QApplication>
 #include <QClipboard>
 #include <QCloseEvent>
-#include <QDesktopServices>
 #include <QDir>
 #include <QFileDialog>
 #include <QKeyEvent>
 #include <QMessageBox>
-#include <QProcess>
 #include <QStandardPaths>
-#include <QUrl>
 #include <filesystem>
 #include <sqlite3.h>
 
@@ -80,12 +77,6 @@ QString FilterOf(std::string_view filter)
     return all.join(QLatin1String(";;"));
 }
 
-QString HostText(std::string_view programPath)
-{
-    const auto host = core::HostPath(programPath).u8string();
-    return QString::fromUtf8(reinterpret_cast<const char*>(host.data()), static_cast<qsizetype>(host.size()));
-}
-
 } // namespace
 
 void DesktopMessageBoxes::Show(const core::Message& message)
@@ -110,28 +101,6 @@ std::string DesktopFileDialogs::OpenFile(const ui::FileDialogRequest& request)
 void DesktopClipboard::SetText(std::string_view text)
 {
     QApplication::clipboard()->setText(ui::Text(text));
-}
-
-void DesktopShell::OpenAddress(std::string_view address)
-{
-    QDesktopServices::openUrl(QUrl(ui::Text(address)));
-}
-
-void DesktopShell::StartProgram(std::string_view program, std::string_view folder)
-{
-    const auto host = HostText(folder);
-    // The program's own working folder stays changed, whatever becomes of the start.
-    if (folder.empty() || !QDir::setCurrent(host)) {
-        throw core::RuntimeError(core::error::PathNotFound);
-    }
-    // A name without a folder is looked for where the program is to run.
-    const QFileInfo file(HostText(program));
-    if (!file.isFile()) {
-        throw core::RuntimeError(core::error::FileNotFound);
-    }
-    if (!QProcess::startDetached(file.absoluteFilePath(), {})) {
-        throw core::RuntimeError(core::error::InvalidCall);
-    }
 }
 
 void InstalledComponents::Check()

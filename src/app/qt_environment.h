@@ -28,6 +28,7 @@ class DesktopClipboard final : public ui::Clipboard {
 class DesktopShell final : public ui::Shell {
   public:
     void OpenAddress(std::string_view address) override;
+    void EnterFolder(std::string_view folder) override;
     void StartProgram(std::string_view program, std::string_view folder) override;
 };
 

@@ -261,6 +261,7 @@ void frmNPC::LoadScriptList()
                 auto* box = options.findChild<QLineEdit*>(QStringLiteral("txtPathZarn"));
                 return dynamic_cast<ui::PathBox&>(*box).ProgramText();
             },
+        .enterFolder = [this](std::string_view folder) { Context().environment.shell.EnterFolder(folder); },
         .showStatus =
             [this](std::string_view text) {
                 firstStatus_->setText(ui::Text(text));

@@ -81,15 +81,13 @@ class HeldNumber {
 
 void Load(const NpcListLoad& load, core::FileNumbers& numbers)
 {
-    const auto      server = load.serverPath();
-    std::error_code failure;
-    if (!fs::is_directory(core::HostPath(core::FolderOf(server)), failure)) {
-        throw core::RuntimeError(core::error::PathNotFound);
-    }
+    const auto server = load.serverPath();
+    load.enterFolder(core::FolderOf(server));
     const auto path = NpcScriptPath(server);
     load.showStatus("Loading " + path);
 
-    const auto hostPath = core::HostPath(path);
+    const auto      hostPath = core::HostPath(path);
+    std::error_code failure;
     if (!fs::is_regular_file(hostPath, failure)) {
         throw core::RuntimeError(core::error::FileNotFound);
     }

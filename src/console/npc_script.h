@@ -26,6 +26,9 @@ struct NpcListLoad {
     /// The path of the server's executable.
     std::function<std::string()> serverPath;
 
+    /// Makes the server's folder the working one; throws RuntimeError where it cannot.
+    std::function<void(std::string_view)> enterFolder;
+
     std::function<void(std::string_view)> showStatus;
     std::function<void(std::string_view)> addEntry;
     std::function<void()>                 showList;

@@ -50,8 +50,13 @@ class Shell {
     virtual ~Shell() = default;
     virtual void OpenAddress(std::string_view address) = 0;
 
-    /// Starts a program with this working folder, both in the program's form of a path.
-    /// Throws RuntimeError 76 or 53 where the folder or the program is not there, 5 where the start fails.
+    /// Makes a folder, in the program's form of a path, the working folder of the whole process, which it stays.
+    /// Where the system has drives, the folder's first letter is made the current one before.
+    /// Throws RuntimeError 68 where there is no such drive, 76 where there is no such folder.
+    virtual void EnterFolder(std::string_view folder) = 0;
+
+    /// Enters the folder and starts a program in it, both in the program's form of a path.
+    /// Throws what EnterFolder throws, RuntimeError 53 where the program is not there, 5 where the start fails.
     virtual void StartProgram(std::string_view program, std::string_view folder) = 0;
 };
 

@@ -63,6 +63,15 @@ TEST_F(DesktopShellTest, MissingFolderIsAnErrorAndChangesNothing)
     EXPECT_EQ(QDir::currentPath(), before_);
 }
 
+TEST_F(DesktopShellTest, EnteredFolderIsTheWorkingOne)
+{
+    shell_.EnterFolder(folder_.ProgramPath() + "\\Tools\\");
+    EXPECT_EQ(ui::Utf8(QDir::currentPath()), Tools().string());
+    EXPECT_RUNTIME_ERROR(76, shell_.EnterFolder(""));
+    EXPECT_RUNTIME_ERROR(76, shell_.EnterFolder(folder_.ProgramPath() + "\\nowhere\\"));
+    EXPECT_EQ(ui::Utf8(QDir::currentPath()), Tools().string());
+}
+
 TEST_F(DesktopShellTest, MissingProgramIsAnErrorInTheNewWorkingFolder)
 {
     EXPECT_RUNTIME_ERROR(53, shell_.StartProgram("zarn.exe", folder_.ProgramPath() + "\\tools"));

@@ -2,8 +2,10 @@
 
 #include <gtest/gtest.h>
 
+#include <filesystem>
 #include <sstream>
 
+#include "core/host_path.h"
 #include "support/expect_error.h"
 #include "support/recording_outlet.h"
 #include "support/temp_folder.h"
@@ -55,6 +57,13 @@ struct LoadRun {
     {
         const NpcListLoad load{
             .serverPath = [this] { return serverPath; },
+            .enterFolder =
+                [this](std::string_view folder) {
+                    entered.emplace_back(folder);
+                    if (!std::filesystem::is_directory(core::HostPath(folder))) {
+                        throw core::RuntimeError(core::error::PathNotFound);
+                    }
+                },
             .showStatus = [this](std::string_view text) { told.push_back("status " + std::string(text)); },
             .addEntry = [this](std::string_view entry) { told.push_back("entry " + std::string(entry)); },
             .showList = [this] { told.emplace_back("list shown"); },
@@ -68,6 +77,7 @@ struct LoadRun {
 
     std::string       serverPath;
     core::FileNumbers numbers;
+    Lines             entered;
     Lines             told;
 };
 
@@ -227,6 +237,7 @@ TEST(NpcListLoading, FillsTheListFromTheFileBesideTheServer)
     run.Load();
     const Lines once{"status Loading " + path, "entry 12 - orc", "status Working on file " + path, "list shown"};
     EXPECT_EQ(run.told, once);
+    EXPECT_EQ(run.entered, Lines{folder.ProgramPath() + "\\"});
     run.Load();
     auto twice = once;
     twice.insert(twice.end(), once.begin(), once.end());

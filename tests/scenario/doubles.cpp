@@ -144,17 +144,23 @@ void RecordingShell::OpenAddress(std::string_view address)
     recorder_.Text("browse", address);
 }
 
-void RecordingShell::StartProgram(std::string_view program, std::string_view folder)
+void RecordingShell::EnterFolder(std::string_view folder)
 {
-    const auto      hostFolder = core::HostPath(folder);
+    // The runner stays where it was started: its files are named from there.
     std::error_code failure;
-    if (folder.empty() || !std::filesystem::is_directory(hostFolder, failure)) {
+    if (folder.empty() || !std::filesystem::is_directory(core::HostPath(folder), failure)) {
         throw core::RuntimeError(core::error::PathNotFound);
     }
+}
+
+void RecordingShell::StartProgram(std::string_view program, std::string_view folder)
+{
+    EnterFolder(folder);
     // A name without a folder is looked for where the program is to run.
     const bool named = core::LastBackslash(program) == 0;
     const auto file =
         named ? core::HostPath(std::string(folder) + "\\" + std::string(program)) : core::HostPath(program);
+    std::error_code failure;
     if (!std::filesystem::is_regular_file(file, failure)) {
         throw core::RuntimeError(core::error::FileNotFound);
     }

@@ -87,6 +87,7 @@ class RecordingShell final : public ui::Shell {
     RecordingShell(Recorder& recorder, DeliveryWatch& watch) : recorder_(recorder), watch_(watch) {}
 
     void OpenAddress(std::string_view address) override;
+    void EnterFolder(std::string_view folder) override;
     void StartProgram(std::string_view program, std::string_view folder) override;
 
   private:

@@ -30,6 +30,7 @@ class QuietServices final : public ui::MessageBoxes,
     }
     void SetText(std::string_view) override { ++errands; }
     void OpenAddress(std::string_view) override { ++errands; }
+    void EnterFolder(std::string_view) override { ++errands; }
     void StartProgram(std::string_view, std::string_view) override { ++errands; }
     bool AnotherInstanceRuns() override { return false; }
     void Check() override
