@@ -54,16 +54,40 @@ function(qf_panel_library name)
     target_compile_definitions(${name} PUBLIC QT_NO_KEYWORDS QT_NO_CAST_FROM_ASCII)
 endfunction()
 
+# qf_offscreen(NAME): a program that can show its windows nowhere. Where Qt is linked as it stands, its platforms
+# have to be named; elsewhere they are files that it finds by itself.
+function(qf_offscreen name)
+    if(TARGET Qt6::QOffscreenIntegrationPlugin)
+        qt_import_plugins(${name} INCLUDE Qt6::QOffscreenIntegrationPlugin)
+    endif()
+endfunction()
+
 # qf_test(NAME SOURCES ... [LINKS ...]): a GoogleTest program, each of its cases a test of CTest. Under Wine the
 # program is one test: each start of it costs about as much as all its cases.
 function(qf_test name)
     cmake_parse_arguments(arg "" "" "SOURCES;LINKS" ${ARGN})
     add_executable(${name} ${arg_SOURCES})
     target_link_libraries(${name} PRIVATE qf_options qf_test_support ${arg_LINKS} GTest::gtest GTest::gmock GTest::gtest_main)
+    qf_add_tests(${name} 120)
+endfunction()
+
+# qf_panel_test(NAME SOURCES ... [LINKS ...]): the same for a program that shows panels, which takes longer.
+function(qf_panel_test name)
+    cmake_parse_arguments(arg "" "" "SOURCES;LINKS" ${ARGN})
+    add_executable(${name} ${arg_SOURCES} "${CMAKE_SOURCE_DIR}/tests/support/qt_test_main.cpp")
+    target_link_libraries(${name} PRIVATE
+        qf_test_support qf_app qf_client_simulated qf_world ${arg_LINKS} GTest::gtest GTest::gmock
+    )
+    qf_offscreen(${name})
+    qf_add_tests(${name} 600 ENVIRONMENT "QT_QPA_PLATFORM=offscreen")
+endfunction()
+
+# qf_add_tests(NAME SECONDS [PROPERTY VALUE...]): the cases of a test program as tests of CTest.
+function(qf_add_tests name seconds)
     if(CMAKE_CROSSCOMPILING)
         add_test(NAME ${name} COMMAND ${name})
-        set_tests_properties(${name} PROPERTIES TIMEOUT 600)
+        set_tests_properties(${name} PROPERTIES TIMEOUT 600 ${ARGN})
     else()
-        gtest_discover_tests(${name} DISCOVERY_TIMEOUT 60 PROPERTIES TIMEOUT 120)
+        gtest_discover_tests(${name} DISCOVERY_TIMEOUT 60 PROPERTIES TIMEOUT ${seconds} ${ARGN})
     endif()
 endfunction()

@@ -1,5 +1,5 @@
 # Cross-compiling to 64-bit Windows with mingw-w64; QF_MINGW_PREFIX may name a folder of libraries
-# that were built for Windows (scripts/build-windows-libraries prints it).
+# that were built for Windows, or a list of such folders (scripts/build-windows-libraries prints it).
 set(CMAKE_SYSTEM_NAME Windows)
 set(CMAKE_SYSTEM_PROCESSOR x86_64)
 
@@ -13,6 +13,15 @@ set(CMAKE_FIND_ROOT_PATH_MODE_PROGRAM NEVER)
 set(CMAKE_FIND_ROOT_PATH_MODE_LIBRARY ONLY)
 set(CMAKE_FIND_ROOT_PATH_MODE_INCLUDE ONLY)
 set(CMAKE_FIND_ROOT_PATH_MODE_PACKAGE ONLY)
+
+# Qt's tools, such as the compiler of resources, are those of the system that builds.
+set(QT_HOST_PATH "/usr" CACHE PATH "Where Qt's tools for the system that builds are installed")
+file(GLOB qf_qt_tools "/usr/lib/*/cmake/Qt6HostInfo")
+if(qf_qt_tools)
+    list(GET qf_qt_tools 0 qf_qt_tools)
+    cmake_path(GET qf_qt_tools PARENT_PATH qf_qt_tools)
+    set(QT_HOST_PATH_CMAKE_DIR "${qf_qt_tools}" CACHE PATH "Where CMake finds them")
+endif()
 
 # Tests run under Wine, in a Windows of the build folder's own.
 find_program(QF_WINE NAMES wine64 wine PATHS /usr/lib/wine)

@@ -10,10 +10,9 @@
 namespace qf::scenario {
 
 ProgramRun::Process::Process(Stage& stage)
-    : store(stage.SettingsFile()),
-      control(stage.recorder, stage.watch),
-      environment{store,       stage.platform,   stage.boxes, stage.dialogs, stage.clipboard,
-                  stage.shell, stage.components, control,     stage.uniform, stage.Places().app},
+    : control(stage.recorder, stage.watch),
+      environment{stage.Settings(), stage.platform,   stage.boxes, stage.dialogs, stage.clipboard,
+                  stage.shell,      stage.components, control,     stage.uniform, stage.Places().app},
       application(environment)
 {}
 

@@ -6,7 +6,6 @@
 #include <vector>
 
 #include "app/application.h"
-#include "app/settings/file_settings_store.h"
 #include "scenario/driver.h"
 #include "scenario/stage.h"
 
@@ -29,10 +28,9 @@ class ProgramRun {
     struct Process {
         explicit Process(Stage& stage);
 
-        app::FileSettingsStore store;
-        RecordingProcess       control;
-        ui::Environment        environment;
-        app::Application       application;
+        RecordingProcess control;
+        ui::Environment  environment;
+        app::Application application;
     };
 
     void DoWithProgram(const Step& step);

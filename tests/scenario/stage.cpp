@@ -6,7 +6,6 @@
 #include <system_error>
 #include <vector>
 
-#include "app/settings/file_settings_store.h"
 #include "client/delivery.h"
 #include "core/ansi.h"
 #include "core/host_path.h"
@@ -99,7 +98,8 @@ Words Folders::Contract(Words words) const
     return words;
 }
 
-Stage::Stage(fs::path scratch, const fs::path& database, const fs::path& here) : scratch_(std::move(scratch))
+Stage::Stage(fs::path scratch, const fs::path& database, const fs::path& here)
+    : scratch_(std::move(scratch)), store_(scratch_)
 {
     fs::create_directories(scratch_ / "app");
     fs::create_directories(scratch_ / "dir");
@@ -121,7 +121,7 @@ Stage::~Stage()
 
 void Stage::WriteSetting(std::string_view section, std::string_view key, std::string_view text)
 {
-    app::FileSettingsStore(SettingsFile()).Write(section, key, text);
+    store_->Write(section, key, text);
 }
 
 bool Stage::Arrange(const Step& step)
@@ -161,7 +161,7 @@ bool Stage::ArrangeFiles(const Step& step)
     switch (step.verb) {
     case Verb::Setting: WriteSetting(words[0], words[1], words[2]); return true;
     case Verb::Generation: WriteSetting("Configuration", "ZarnVer", words[0]); return true;
-    case Verb::Unset: app::FileSettingsStore(SettingsFile()).Remove(words[0], words[1]); return true;
+    case Verb::Unset: store_->Remove(words[0], words[1]); return true;
     case Verb::File: WriteBytes(HostFile(words[0]), TextBytes(step.text, folders_)); return true;
     case Verb::Bytes: {
         std::string bytes;
@@ -206,7 +206,7 @@ bool Stage::Answer(const Step& step)
 {
     switch (step.verb) {
     case Verb::AskSetting:
-        if (const auto text = app::FileSettingsStore(SettingsFile()).Find(step.arguments[0], step.arguments[1])) {
+        if (const auto text = store_->Find(step.arguments[0], step.arguments[1])) {
             recorder.Text("value", *text);
         } else {
             recorder.Bare("absent");

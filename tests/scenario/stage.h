@@ -8,6 +8,7 @@
 #include "scenario/doubles.h"
 #include "scenario/qfs_file.h"
 #include "scenario/recorder.h"
+#include "scenario/scratch_store.h"
 
 namespace qf::scenario {
 
@@ -25,7 +26,7 @@ struct Folders {
     Words Contract(Words words) const;
 };
 
-/// What a scenario's program runs on: scratch folders, a settings file, a simulated desktop and the
+/// What a scenario's program runs on: scratch folders, a settings store, a simulated desktop and the
 /// doubles of everything else outside the program. It outlives the runs of the program in one scenario.
 class Stage {
   public:
@@ -44,7 +45,7 @@ class Stage {
     bool Answer(const Step& step);
 
     const Folders&        Places() const { return folders_; }
-    std::filesystem::path SettingsFile() const { return scratch_ / "settings.ini"; }
+    core::SettingsStore&  Settings() { return *store_; }
     std::filesystem::path DatabaseFile() const { return scratch_ / "app" / "qf.mdb"; }
 
     Recorder                  recorder;
@@ -70,6 +71,7 @@ class Stage {
     void              WriteSetting(std::string_view section, std::string_view key, std::string_view text);
 
     std::filesystem::path scratch_;
+    ScratchStore          store_;
     Folders               folders_;
     client::ProcessId     process_ = 0;
     client::WindowHandle  assist_ = 0;
