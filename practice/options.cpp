@@ -80,7 +80,7 @@ std::string UsageText()
            "A window that stands in for the game client: it takes typed command lines and shows what they build.\n"
            "\n"
            "  --client-folder DIR  draw with the art.mul and artidx.mul of DIR\n"
-           "                       (default: PracticeArt beside the program, where it is there)\n"
+           "                       (default: PracticeArt beside the program or installed with it)\n"
            "  --no-art             draw painted blocks in place of art\n"
            "  --log FILE           append each line received to FILE\n"
            "  --prefix TEXT        what a command begins with (default: ')\n"

@@ -8,6 +8,7 @@
 #include <string_view>
 #include <utility>
 
+#include "core/installed_folders.h"
 #include "practice/hud.h"
 
 namespace qf::practice {
@@ -40,7 +41,11 @@ std::unique_ptr<TileArt> OpenArt(const Options& options)
         return art;
     }
     const std::unique_ptr<char, decltype(&SDL_free)> programFolder(SDL_GetBasePath(), &SDL_free);
-    return programFolder ? TileArt::Open(std::string(programFolder.get()) + "PracticeArt") : nullptr;
+    if (!programFolder) {
+        return nullptr;
+    }
+    const auto art = core::PracticeArtFolder(PathOf(programFolder.get())).u8string();
+    return art.empty() ? nullptr : TileArt::Open(std::string(art.begin(), art.end()));
 }
 
 } // namespace

@@ -5,6 +5,7 @@ packages_build=(g++ cmake ninja-build ccache pkg-config qt6-base-dev libsdl2-dev
 packages_show=(xvfb xauth openbox xdotool imagemagick fonts-dejavu-core)
 packages_test=(libgtest-dev libgmock-dev googletest x11-xkb-utils x11-xserver-utils)
 packages_fuzz=(clang libclang-rt-14-dev)
+packages_linux_package=(dpkg-dev gzip lintian man-db desktop-file-utils appstream binutils)
 # Wine's window stack is right only where it finds these X libraries, which its packages merely recommend.
 packages_windows=(g++-mingw-w64-x86-64-posix wine wine64 dpkg-dev make gcc tcl libsdl2-dev libsqlite3-dev qt6-base-dev
     libxcomposite1 libxcursor1 libxi6 libxinerama1 libxrandr2 libxrender1 libxfixes3 libxxf86vm1)

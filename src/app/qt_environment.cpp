@@ -108,8 +108,9 @@ void InstalledComponents::Check()
     if (sqlite3_libversion_number() < OldestDatabaseLibrary) {
         throw core::RuntimeError(core::error::ComponentMissing);
     }
+    SeedProgramFolder(place_);
     std::error_code                           failure;
-    const std::filesystem::directory_iterator folder(core::HostPath(programFolder_), failure);
+    const std::filesystem::directory_iterator folder(place_.folder, failure);
     if (failure) {
         throw core::RuntimeError(core::error::ComponentUnsuited);
     }

@@ -3,6 +3,7 @@
 #include <QLockFile>
 #include <memory>
 
+#include "app/program_folder.h"
 #include "ui/environment.h"
 
 namespace qf::app {
@@ -35,13 +36,14 @@ class DesktopShell final : public ui::Shell {
 /// The files and libraries that the program needs, and its place as the one running instance.
 class InstalledComponents final : public ui::Components {
   public:
-    explicit InstalledComponents(std::string programFolder) : programFolder_(std::move(programFolder)) {}
+    explicit InstalledComponents(ProgramPlace place) : place_(std::move(place)) {}
 
+    /// Fills the program's folder as well. Throws RuntimeError 75 where that fails.
     void Check() override;
     bool AnotherInstanceRuns() override;
 
   private:
-    std::string                programFolder_;
+    ProgramPlace               place_;
     std::unique_ptr<QLockFile> lock_;
 };
 

@@ -1,6 +1,7 @@
 #include <QApplication>
 
 #include "app/application.h"
+#include "app/program_folder.h"
 #include "app/qt_environment.h"
 #include "app/quern_picture.h"
 #include "app/settings/store_factory.h"
@@ -11,6 +12,7 @@
 #ifdef _WIN32
 #include "client/platform/win32/win32_platform.h"
 #else
+#include "app/settings/user_folders.h"
 #include "client/platform/x11/x11_platform.h"
 #endif
 
@@ -22,6 +24,16 @@ std::unique_ptr<qf::client::ClientPlatform> OpenPlatform()
     return std::make_unique<qf::client::Win32Platform>();
 #else
     return std::make_unique<qf::client::X11Platform>();
+#endif
+}
+
+qf::app::ProgramPlace FindPlace()
+{
+    std::filesystem::path folder(qf::ui::Utf8(QApplication::applicationDirPath()));
+#ifdef _WIN32
+    return {std::move(folder), {}};
+#else
+    return qf::app::PlaceOf(folder, qf::app::UserFolder("XDG_DATA_HOME", ".local/share"));
 #endif
 }
 
@@ -44,18 +56,18 @@ int main(int argumentCount, char** arguments)
 
     app::DesktopMessageBoxes boxes;
     try {
-        const auto folder = core::ProgramPath(ui::Utf8(QApplication::applicationDirPath()));
+        const auto place = FindPlace();
         const auto store = app::OpenSettingsStore();
         const auto platform = OpenPlatform();
 
         app::DesktopFileDialogs      dialogs;
         app::DesktopClipboard        clipboard;
         app::DesktopShell            shell;
-        app::InstalledComponents     components(folder);
+        app::InstalledComponents     components(place);
         app::DesktopProcess          process(boxes);
         core::PseudoUniformGenerator uniform;
         ui::Environment              environment{*store, *platform,  boxes,   dialogs, clipboard,
-                                    shell,  components, process, uniform, folder};
+                                    shell,  components, process, uniform, core::ProgramPath(place.folder)};
 
         app::Application run(environment);
         if (!run.Main()) {

@@ -78,6 +78,20 @@ TEST(SetupChoice, WithoutAStoredFolderTheBoxIsEmpty)
     EXPECT_EQ(InitialChoice(store).clientFolder, "");
 }
 
+TEST(SetupChoice, ThePracticeArtIsOfferedWhereNoFolderIsStored)
+{
+    test::MemoryStore store;
+    const auto        choice = InitialChoice(store, "/usr/share/quernfield/PracticeArt");
+    EXPECT_EQ(choice.clientFolder, "/usr/share/quernfield/PracticeArt");
+    EXPECT_EQ(TextsOf(choice).uoPath, "\\usr\\share\\quernfield\\PracticeArt\\");
+    EXPECT_TRUE(store.log.empty());
+
+    for (const auto* stored : {"\\no such folder\\uo\\", "\\", ""}) {
+        store.Write("Configuration", "UOPath", stored);
+        EXPECT_EQ(TextsOf(InitialChoice(store, "/art")).uoPath, std::string_view(stored).empty() ? "\\" : stored);
+    }
+}
+
 TEST(SetupChoice, TheFolderIsShownInTheSystemsForm)
 {
     test::MemoryStore store;

@@ -53,6 +53,15 @@ TEST_F(SetupDialogTest, StartsWithTheNewerGenerationAndSaves)
     EXPECT_EQ(store.log, (std::vector<std::string>{"Configuration UOPath=\\games\\uo\\", "Configuration ZarnVer=1"}));
 }
 
+TEST_F(SetupDialogTest, OffersThePracticeArtAndSavesIt)
+{
+    SetupDialog dialog(store, "/usr/share/quernfield/PracticeArt");
+    EXPECT_EQ(Child<QLineEdit>(dialog, "txtPathUO").text(), QStringLiteral("/usr/share/quernfield/PracticeArt"));
+    EXPECT_TRUE(store.log.empty());
+    Child<QPushButton>(dialog, "cmdSave").click();
+    EXPECT_EQ(store.Find("Configuration", "UOPath"), "\\usr\\share\\quernfield\\PracticeArt\\");
+}
+
 TEST_F(SetupDialogTest, TheOlderGenerationCanBeChosen)
 {
     SetupDialog dialog(store);

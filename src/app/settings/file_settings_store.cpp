@@ -3,9 +3,7 @@
 #include <array>
 #include <cerrno>
 #include <chrono>
-#include <cstdlib>
 #include <fcntl.h>
-#include <pwd.h>
 #include <sys/file.h>
 #include <sys/stat.h>
 #include <system_error>
@@ -13,6 +11,7 @@
 #include <unistd.h>
 #include <utility>
 
+#include "app/settings/user_folders.h"
 #include "core/product.h"
 #include "core/runtime_error.h"
 
@@ -170,30 +169,13 @@ void Replace(const fs::path& file, const FileContent& old, std::string_view byte
     }
 }
 
-fs::path AbsoluteFromEnvironment(const char* name)
-{
-    // The environment is only read, and by one thread.
-    const char* text = std::getenv(name); // NOLINT(concurrency-mt-unsafe)
-    fs::path    path = text == nullptr ? "" : text;
-    return path.is_absolute() ? path : fs::path();
-}
-
 } // namespace
 
 FileSettingsStore::FileSettingsStore(fs::path file) : file_(std::move(file)) {}
 
 fs::path FileSettingsStore::DefaultFile()
 {
-    auto folder = AbsoluteFromEnvironment("XDG_CONFIG_HOME");
-    if (folder.empty()) {
-        auto home = AbsoluteFromEnvironment("HOME");
-        if (home.empty()) {
-            const passwd* user = ::getpwuid(::getuid()); // NOLINT(concurrency-mt-unsafe)
-            home = user == nullptr || user->pw_dir == nullptr ? "/" : user->pw_dir;
-        }
-        folder = home / ".config";
-    }
-    return folder / "quernfield" / "settings.ini";
+    return UserFolder("XDG_CONFIG_HOME", ".config") / "quernfield" / "settings.ini";
 }
 
 std::optional<std::string> FileSettingsStore::Find(std::string_view section, std::string_view key)

@@ -2,6 +2,7 @@
 
 #include <filesystem>
 #include <optional>
+#include <system_error>
 
 #include "core/host_path.h"
 #include "core/number_rules.h"
@@ -19,6 +20,12 @@ constexpr std::string_view UsualFolder = "C:\\Program Files\\Ultima Online\\";
 #else
 constexpr std::string_view UsualFolder;
 #endif
+
+bool IsFolder(std::string_view programPath)
+{
+    std::error_code failure;
+    return !programPath.empty() && std::filesystem::is_directory(core::HostPath(programPath), failure);
+}
 
 /// The generation as the program reads it at its start.
 std::optional<int> StoredGeneration(core::SettingsStore& store)
@@ -46,13 +53,17 @@ SetupTexts TextsOf(const SetupChoice& choice)
     return texts;
 }
 
-SetupChoice InitialChoice(core::SettingsStore& store)
+SetupChoice InitialChoice(core::SettingsStore& store, std::string_view practiceArt)
 {
     SetupChoice choice;
     choice.generation = StoredGeneration(store) == 0 ? 0 : 1;
 
-    const auto folder = store.Read(core::section::Configuration, FolderKey, UsualFolder);
-    const auto hostForm = core::HostPath(folder).u8string();
+    const auto stored = store.Find(core::section::Configuration, FolderKey);
+    if (!stored && !practiceArt.empty() && !IsFolder(UsualFolder)) {
+        choice.clientFolder = practiceArt;
+        return choice;
+    }
+    const auto hostForm = core::HostPath(stored.value_or(std::string(UsualFolder))).u8string();
     choice.clientFolder.assign(hostForm.begin(), hostForm.end());
     return choice;
 }

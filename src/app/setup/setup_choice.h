@@ -27,8 +27,10 @@ struct SetupTexts {
 /// configuration panel.
 SetupTexts TextsOf(const SetupChoice& choice);
 
-/// What the dialog shows at first: what the store holds, and 0.9x.x where it holds no generation.
-SetupChoice InitialChoice(core::SettingsStore& store);
+/// What the dialog shows at first: what the store holds, and 0.9x.x where it holds no generation. A store without
+/// a folder gives the usual one where the system has such; `practiceArt` (in the system's form, empty where there
+/// is none) stands in for a client that is not there.
+SetupChoice InitialChoice(core::SettingsStore& store, std::string_view practiceArt = {});
 
 /// Whether the store lacks a generation with which the program can start.
 bool IsSetupNeeded(core::SettingsStore& store);

@@ -21,7 +21,8 @@ constexpr int PathCharacters = 44;
 
 } // namespace
 
-SetupDialog::SetupDialog(core::SettingsStore& store) : store_(store), optZarnVer_(*this, "optZarnVer")
+SetupDialog::SetupDialog(core::SettingsStore& store, std::string_view practiceArt)
+    : store_(store), optZarnVer_(*this, "optZarnVer")
 {
     setObjectName(QStringLiteral("frmSetup"));
     setWindowTitle(QStringLiteral("Quernfield Setup"));
@@ -59,7 +60,7 @@ SetupDialog::SetupDialog(core::SettingsStore& store) : store_(store), optZarnVer
     whole->addStretch();
     whole->addLayout(buttons);
 
-    const auto choice = InitialChoice(store_);
+    const auto choice = InitialChoice(store_, practiceArt);
     optZarnVer_.Select(choice.generation);
     txtPathUO_->setText(QDir::toNativeSeparators(ui::Text(choice.clientFolder)));
 

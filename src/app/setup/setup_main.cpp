@@ -1,22 +1,70 @@
 #include <QApplication>
+#include <QDir>
+#include <QMessageBox>
+#include <QProcess>
+#include <QStandardPaths>
 #include <string_view>
 
 #include "app/settings/store_factory.h"
 #include "app/setup/setup_dialog.h"
+#include "core/installed_folders.h"
+#include "ui/parts.h"
 
-// Ends with 0 when the settings are saved (or with --if-needed are there already), with 1 when the user
-// cancels.
+namespace {
+
+struct Options {
+    bool onlyIfNeeded = false;
+    bool start = false;
+};
+
+Options ReadOptions(int argc, char** argv)
+{
+    Options options;
+    for (int index = 1; index < argc; ++index) {
+        const std::string_view argument = argv[index];
+        options.start = options.start || argument == "--start";
+        options.onlyIfNeeded = options.onlyIfNeeded || options.start || argument == "--if-needed";
+    }
+    return options;
+}
+
+std::string PracticeArt()
+{
+    const auto art = qf::core::PracticeArtFolder(QDir(QApplication::applicationDirPath()).filesystemPath()).u8string();
+    return {art.begin(), art.end()};
+}
+
+/// The program beside this one, on its own from then on. Where that fails, the user is told.
+bool StartProgram()
+{
+    const auto folder = QApplication::applicationDirPath();
+    const auto program = QStandardPaths::findExecutable(QStringLiteral("quernfield"), {folder});
+    if (!program.isEmpty() && QProcess::startDetached(program, {})) {
+        return true;
+    }
+    QMessageBox::critical(nullptr, QStringLiteral("Quernfield"),
+                          QStringLiteral("Quernfield cannot be started.\n\nIts program \"quernfield\" is missing in "
+                                         "this folder, or the system refuses to run it:\n") +
+                              QDir::toNativeSeparators(folder));
+    return false;
+}
+
+} // namespace
+
+// Asks for the settings that the program cannot start without; with --if-needed or --start only where they are
+// missing. --start then starts the program. Ends with 0 when that is done, with 1 when the user cancels or the
+// program cannot be started.
 int main(int argc, char** argv)
 {
-    bool onlyIfNeeded = false;
-    for (int index = 1; index < argc; ++index) {
-        onlyIfNeeded = onlyIfNeeded || std::string_view(argv[index]) == "--if-needed";
-    }
+    const auto options = ReadOptions(argc, argv);
     const auto store = qf::app::OpenSettingsStore();
-    if (onlyIfNeeded && !qf::app::IsSetupNeeded(*store)) {
+    const bool asks = !options.onlyIfNeeded || qf::app::IsSetupNeeded(*store);
+    if (!asks && !options.start) {
         return 0;
     }
-    const QApplication   application(argc, argv);
-    qf::app::SetupDialog dialog(*store);
-    return dialog.exec() == QDialog::Accepted ? 0 : 1;
+    const QApplication application(argc, argv);
+    if (asks && qf::app::SetupDialog(*store, PracticeArt()).exec() != QDialog::Accepted) {
+        return 1;
+    }
+    return !options.start || StartProgram() ? 0 : 1;
 }
