@@ -8,6 +8,7 @@
 #include <utility>
 
 #include "core/number_rules.h"
+#include "ui/close_entry.h"
 #include "ui/parts.h"
 
 namespace qf::ui {
@@ -226,6 +227,14 @@ void Panel::closeEvent(QCloseEvent* event)
     }
     event->accept();
     Guard([this] { context_.panels.Unload(*this); });
+}
+
+void Panel::showEvent(QShowEvent* event)
+{
+    QWidget::showEvent(event);
+    if (!HasCloseEntry() && isWindow()) {
+        RemoveCloseEntry(*this);
+    }
 }
 
 void Panel::hideEvent(QHideEvent* event)

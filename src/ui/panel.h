@@ -110,6 +110,7 @@ class Panel : public QWidget {
     QLineEdit& Box(std::string_view name) const;
 
     void closeEvent(QCloseEvent* event) override;
+    void showEvent(QShowEvent* event) override;
     void hideEvent(QHideEvent* event) override;
     bool eventFilter(QObject* object, QEvent* event) override;
 
