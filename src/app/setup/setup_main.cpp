@@ -3,6 +3,7 @@
 
 #include "app/settings/store_factory.h"
 #include "app/setup/setup_dialog.h"
+#include "ui/desktop_colours.h"
 
 // Ends with 0 when the settings are saved (or with --if-needed are there already), with 1 when the user
 // cancels.
@@ -16,7 +17,9 @@ int main(int argc, char** argv)
     if (onlyIfNeeded && !qf::app::IsSetupNeeded(*store)) {
         return 0;
     }
-    const QApplication   application(argc, argv);
+    qf::ui::AskForDesktopColours();
+    QApplication application(argc, argv);
+    qf::ui::FollowDesktopColours(application);
     qf::app::SetupDialog dialog(*store);
     return dialog.exec() == QDialog::Accepted ? 0 : 1;
 }
