@@ -15,6 +15,7 @@
 #include <iostream>
 #include <map>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "app/application.h"
@@ -22,6 +23,7 @@
 #include "core/host_path.h"
 #include "support/memory_store.h"
 #include "support/quiet_services.h"
+#include "support/themes.h"
 #include "ui/panel.h"
 #include "ui/parts.h"
 #include "ui/picture_surface.h"
@@ -157,7 +159,7 @@ void WriteControls(std::ofstream& out, const ui::Panel& panel)
 int Usage()
 {
     std::cerr << "quernfield-panels [--poses FILE] [--screenshots FOLDER] [--controls FILE] [--client-folder FOLDER] "
-                 "[--generation 0|1]\n";
+                 "[--generation 0|1] [--theme light|dark] [--dpi NUMBER]\n";
     return 2;
 }
 
@@ -168,16 +170,24 @@ int main(int argumentCount, char** arguments)
     if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")) {
         qputenv("QT_QPA_PLATFORM", "offscreen");
     }
-    QApplication application(argumentCount, arguments);
-    QApplication::setQuitOnLastWindowClosed(false);
-
     std::map<std::string, std::string> options;
-    const auto                         words = QApplication::arguments();
-    for (qsizetype index = 1; index < words.size(); index += 2) {
-        if (index + 1 == words.size() || !words[index].startsWith(QLatin1String("--"))) {
+    for (int index = 1; index < argumentCount; index += 2) {
+        if (index + 1 == argumentCount || !std::string_view(arguments[index]).starts_with("--")) {
             return Usage();
         }
-        options[ui::Utf8(words[index])] = ui::Utf8(words[index + 1]);
+        options[arguments[index]] = arguments[index + 1];
+    }
+    if (const auto dpi = options.find("--dpi"); dpi != options.end()) {
+        // Qt reads it once, when the application begins.
+        qputenv("QT_FONT_DPI", QByteArray::fromStdString(dpi->second));
+    }
+    QApplication application(argumentCount, arguments);
+    QApplication::setQuitOnLastWindowClosed(false);
+    if (const auto theme = options.find("--theme"); theme != options.end()) {
+        if (theme->second != "light" && theme->second != "dark") {
+            return Usage();
+        }
+        test::ApplyTheme(theme->second == "dark" ? test::Theme::Dark : test::Theme::Light);
     }
 
     const QTemporaryDir scratch;

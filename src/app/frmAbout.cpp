@@ -1,12 +1,12 @@
 #include "app/frmAbout.h"
 
-#include <QFrame>
 #include <QHBoxLayout>
 #include <QPlainTextEdit>
 #include <QVBoxLayout>
 
 #include "app/quern_picture.h"
 #include "core/product.h"
+#include "ui/click_label.h"
 #include "ui/parts.h"
 
 namespace qf::app {
@@ -44,40 +44,48 @@ frmAbout::frmAbout(ui::AppContext& context) : Panel(context, "frmAbout")
 
 void frmAbout::Layout()
 {
-    Picture1 = new QFrame(this);
-    Picture1->setObjectName(QStringLiteral("Picture1"));
-    static_cast<QFrame*>(Picture1)->setFrameStyle(QFrame::StyledPanel | QFrame::Sunken);
+    const auto clickable = [](QWidget* parent, const char* name, std::string_view text) {
+        auto* label = new ui::ClickLabel(ui::Text(text), parent);
+        label->setObjectName(QLatin1String(name));
+        return label;
+    };
+    Picture1 = clickable(this, "Picture1", "");
+    Picture1->setFrameStyle(QFrame::StyledPanel | QFrame::Sunken);
+    Picture1->setAccessibleName(QStringLiteral("Shows and hides the quern"));
     Picture1->setAutoFillBackground(true);
     Picture1->setBackgroundRole(QPalette::Base);
     Picture1->setFixedSize(190, 190);
 
-    Picture2 = ui::MakeLabel(Picture1, "Picture2", "");
+    Picture2 = clickable(Picture1, "Picture2", "");
+    Picture2->setAccessibleName(QStringLiteral("The quern"));
     Picture2->setPixmap(QuernPicture(48));
     Picture2->setFixedSize(48, 48);
 
-    Label5 = ui::MakeLabel(this, "Label5", "Ground by hand, tile by tile.");
+    Label5 = clickable(this, "Label5", "Ground by hand, tile by tile.");
     Label5->setAlignment(Qt::AlignCenter);
     auto policy = Label5->sizePolicy();
     policy.setRetainSizeWhenHidden(true);
     Label5->setSizePolicy(policy);
     Label5->hide();
 
-    auto* address = ui::MakeLabel(this, "Label3", core::HomePage);
+    auto* address = clickable(this, "Label3", core::HomePage);
     auto  font = address->font();
     font.setUnderline(true);
     address->setFont(font);
-    address->setForegroundRole(QPalette::Link);
-    address->setCursor(Qt::PointingHandCursor);
+    // Some dark desktops keep the blue of light ones.
+    const bool readable = ui::Contrast(palette().color(QPalette::Link), palette().color(QPalette::Window)) >= 4.5;
+    address->setForegroundRole(readable ? QPalette::Link : QPalette::WindowText);
     address->setToolTip(QStringLiteral("Opens the home page"));
 
     auto* credits = new QPlainTextEdit(QString::fromUtf8(Credits), this);
     credits->setObjectName(QStringLiteral("txtCredits"));
     credits->setReadOnly(true);
+    credits->setAccessibleName(QStringLiteral("Credits"));
     credits->setTabChangesFocus(true);
     credits->setMinimumSize(320, 110);
 
     auto* ok = ui::MakeButton(this, "cmdOK", "OK");
-    ok->setDefault(true);
+    SetDefault(*ok);
 
     auto* left = new QVBoxLayout;
     left->addWidget(Picture1);

@@ -19,7 +19,7 @@ class frmAbout final : public ui::Panel {
     void Layout();
     void Tick();
 
-    QWidget*    Picture1;
+    QLabel*     Picture1;
     QLabel*     Picture2;
     QLabel*     Label5;
     QTimer*     Timer2;

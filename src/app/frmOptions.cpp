@@ -21,7 +21,7 @@ constexpr int PlaceDigits = 6;
 
 constexpr QRgb CalibratingColour = 0xFFFF0000;
 constexpr QRgb ReadyColour = 0xFF00FF00;
-constexpr QRgb DisplayColour = 0xFF202428;
+constexpr QRgb DisplayColour = 0xFF101214;
 constexpr QRgb DisplayTextColour = 0xFFE0E4E8;
 
 constexpr std::string_view CalibrationInfo =
@@ -185,7 +185,7 @@ QWidget* frmOptions::MakeCalibration()
     lblCalibrate->setAlignment(Qt::AlignCenter);
     lblCalibrate->setFrameStyle(QFrame::Panel | QFrame::Sunken);
     lblCalibrate->setMargin(lblCalibrate->fontMetrics().height() / 3);
-    // Both colours of its text are too bright for a light ground.
+    // Both colours of its text are too bright for a light ground, and the red one too dark for all but the darkest.
     lblCalibrate->setAutoFillBackground(true);
     ShowCalibrationState("Ready for Calibration", QColor::fromRgb(DisplayTextColour));
     layout->addWidget(lblCalibrate);

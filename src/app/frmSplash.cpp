@@ -12,6 +12,12 @@
 
 namespace qf::app {
 
+namespace {
+
+constexpr int Columns = 44;
+
+} // namespace
+
 frmSplash::frmSplash(ui::AppContext& context) : Panel(context, "frmSplash")
 {
     setWindowFlag(Qt::FramelessWindowHint);
@@ -20,6 +26,7 @@ frmSplash::frmSplash(ui::AppContext& context) : Panel(context, "frmSplash")
     auto* picture = ui::MakeLabel(this, "", "");
     picture->setPixmap(QuernPicture(72));
     picture->setAlignment(Qt::AlignCenter);
+    picture->setMinimumWidth(fontMetrics().averageCharWidth() * Columns);
 
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(36, 28, 36, 28);
@@ -41,7 +48,6 @@ frmSplash::frmSplash(ui::AppContext& context) : Panel(context, "frmSplash")
     bar->setValue(0);
     bar->hide();
     layout->addWidget(bar);
-    setMinimumWidth(380);
 }
 
 void frmSplash::Load()

@@ -1,5 +1,6 @@
 #include "app/quern_picture.h"
 
+#include <QGuiApplication>
 #include <QLinearGradient>
 #include <QPainter>
 
@@ -33,7 +34,10 @@ void DrawStone(QPainter& painter, double top, double thickness, double radius, c
 
 QPixmap QuernPicture(int size)
 {
-    QPixmap picture(size, size);
+    // As many pixels as the screen has for it.
+    const double ratio = qGuiApp->devicePixelRatio();
+    QPixmap      picture(qRound(size * ratio), qRound(size * ratio));
+    picture.setDevicePixelRatio(ratio);
     picture.fill(Qt::transparent);
     QPainter painter(&picture);
     painter.setRenderHint(QPainter::Antialiasing);

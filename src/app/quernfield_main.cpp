@@ -7,6 +7,7 @@
 #include "app/settings/store_factory.h"
 #include "core/host_path.h"
 #include "core/product.h"
+#include "ui/desktop_colours.h"
 #include "ui/parts.h"
 
 #ifdef _WIN32
@@ -49,7 +50,9 @@ int main(int argumentCount, char** arguments)
         qputenv("QT_QPA_PLATFORM", "xcb");
     }
 #endif
+    ui::AskForDesktopColours();
     QApplication application(argumentCount, arguments);
+    ui::FollowDesktopColours(application);
     QApplication::setApplicationName(QStringLiteral("quernfield"));
     QApplication::setQuitOnLastWindowClosed(false);
     QApplication::setWindowIcon(app::QuernPicture(64));

@@ -49,23 +49,29 @@ QWidget* frmGMCommands::MakeItemEditTab()
 void frmGMCommands::PutBoxBeside(QGroupBox& frame, std::string_view button, std::string_view name,
                                  std::string_view meaning)
 {
-    auto& grid = GridOf(frame);
-    auto* beside = frame.findChild<QPushButton*>(ui::Text(button));
-    int   row = 0;
-    int   column = 0;
-    int   rows = 0;
-    int   columns = 0;
-    grid.getItemPosition(grid.indexOf(beside), &row, &column, &rows, &columns);
+    auto&     grid = GridOf(frame);
+    auto*     beside = frame.findChild<QPushButton*>(ui::Text(button));
+    int       row = 0;
+    int       column = 0;
+    int       rows = 0;
+    int       columns = 0;
+    const int place = grid.indexOf(beside);
+    grid.getItemPosition(place, &row, &column, &rows, &columns);
     grid.removeWidget(beside);
+    const int behind = grid.count() - place;
 
     auto* box = MakeBox(&frame, name, ValueDigits);
     box->setToolTip(ui::Text(meaning));
     box->setAccessibleName(box->toolTip());
-    QWidget::setTabOrder(beside, box);
     auto* both = new QHBoxLayout;
     both->addWidget(beside, 1);
     both->addWidget(box);
     grid.addLayout(both, row, column);
+    // The Tab key goes in the order of the layout, so what came behind the button comes behind the box.
+    for (int moved = 0; moved < behind; ++moved) {
+        grid.getItemPosition(place, &row, &column, &rows, &columns);
+        grid.addItem(grid.takeAt(place), row, column, rows, columns);
+    }
 }
 
 QGroupBox* frmGMCommands::MakeChoiceFrame(QWidget* parent, Tab tab, std::string_view frame, ui::OptionArray& options,

@@ -148,6 +148,7 @@ QGroupBox* frmWipe::MakeConfirmation()
     SetBold(*question, false);
     question->setWordWrap(true);
     question->setMinimumWidth(question->fontMetrics().averageCharWidth() * ConfirmationColumns);
+    question->setMinimumHeight(question->heightForWidth(question->minimumWidth()));
 
     auto* yes = ui::MakeButton(Frame4, "Command3", "YES", "Removes every item of the world");
     auto* no = ui::MakeButton(Frame4, "Command5", "NO!!", "Leaves the world as it is");

@@ -23,6 +23,7 @@ PickList::PickList(QWidget* parent, std::string_view name, std::string_view init
     : QComboBox(parent), initialText_(ui::Text(initialText))
 {
     setObjectName(ui::Text(name));
+    setAccessibleName(initialText_);
     // A box whose completer gets the rows at the first focus: a completer with rows costs more than the rest.
     auto* box = new QLineEdit(this);
     box->setCompleter(new QCompleter(box));

@@ -122,6 +122,7 @@ QLineEdit& ConstructionPanel::AddBaseHeight(QWidget* frame, QGridLayout& layout)
     layout.addWidget(ui::MakeLabelFor(current, "", "Current height"), 0, 0);
     layout.addWidget(current, 0, 1);
     layout.addWidget(fetch, 0, 2);
+    layout.setColumnStretch(2, 1);
     AddPositionControl({FetchName(Fetch::Height), "", "", traits_.heightBox, ""});
     return *current;
 }
@@ -142,7 +143,6 @@ QGroupBox* ConstructionPanel::MakeHeightFrame(ui::OptionArray& storeys)
     auto* custom = ui::MakeTextBox(frame, "txtCustom", CoordinateDigits);
     layout->addWidget(ui::MakeLabelFor(custom, "lblCustom", "Custom"), 2, 0);
     layout->addWidget(custom, 2, 1);
-    layout->setColumnStretch(1, 1);
 
     storeys_ = &storeys;
     storeys.onSelect = [this](int storey) { Guard([this, storey] { ApplyStorey(storey); }); };
@@ -157,6 +157,7 @@ QWidget* ConstructionPanel::MakePicture(QWidget* parent)
 {
     pctMain_ = new ui::PictureSurface(parent);
     pctMain_->setObjectName(QStringLiteral("pctMain"));
+    pctMain_->setAccessibleName(QStringLiteral("Picture of the tile"));
     return ui::MakePicturePlace(parent, *pctMain_);
 }
 
@@ -167,6 +168,7 @@ QGroupBox* ConstructionPanel::MakePreviewFrame()
     auto* id = ui::MakeTextBox(frame, "txtItemID", 8);
     id->setToolTip(QStringLiteral("Click to copy ID"));
     id->setReadOnly(true);
+    id->setAccessibleName(QStringLiteral("Item ID"));
     id->setAlignment(Qt::AlignCenter);
     auto* place = MakePicture(frame);
     id->setMaximumWidth(place->width());

@@ -72,6 +72,7 @@ QGroupBox* frmWalls::MakeTypeFrame()
                                    "Adds an example of each wall along a line from the first corner");
     OnClick(*samples, [this] { ShowWallSelection(State(), Outlet()); });
 
+    page->layout()->setContentsMargins(0, 0, 0, 0);
     auto* layout = new QVBoxLayout(frame);
     layout->addWidget(page, 1);
     layout->addWidget(samples, 0, Qt::AlignLeft);

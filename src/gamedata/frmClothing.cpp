@@ -94,6 +94,7 @@ QWidget* frmClothing::MakePicture()
     auto* frame = ui::MakeFrame(this, "", "Picture");
     pctItem = new ui::PictureSurface(frame);
     pctItem->setObjectName(QStringLiteral("pctItem"));
+    pctItem->setAccessibleName(QStringLiteral("Picture of the garment"));
     auto* layout = new QVBoxLayout(frame);
     layout->addWidget(ui::MakePicturePlace(frame, *pctItem), 0, Qt::AlignHCenter);
     layout->addStretch(1);

@@ -24,8 +24,9 @@ namespace {
 constexpr int Rows = HueGroup::Entries;
 constexpr int Columns = static_cast<int>(std::tuple_size_v<decltype(HueEntry::colours)>);
 
-constexpr int CellWidth = 18;
-constexpr int CellHeight = 24;
+/// Of a cell, in tenths of a text line's height.
+constexpr int CellWidth = 12;
+constexpr int CellHeight = 16;
 constexpr int NameLength = 20;
 
 /// One group of the hues as a table of colours: a row for each hue.
@@ -142,7 +143,8 @@ class frmDye::Vat final : public QTableView {
             header->setSectionResizeMode(QHeaderView::Stretch);
         }
         const int frame = 2 * frameWidth();
-        setMinimumSize(Columns * CellWidth + frame, Rows * CellHeight + frame);
+        const int line = fontMetrics().height();
+        setMinimumSize(Columns * line * CellWidth / 10 + frame, Rows * line * CellHeight / 10 + frame);
     }
 
     /// Shows a group's colours in one step. The cell in the last corner is the selected one afterwards.

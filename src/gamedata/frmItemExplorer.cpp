@@ -16,6 +16,9 @@ namespace {
 /// this many milliseconds is not felt.
 constexpr int MillisecondsBetweenEvents = 25;
 
+/// What is beside the grid, of which the rule for new cells knows the usual width.
+constexpr int BesideGrid = 25;
+
 constexpr std::string_view NoCategory = "Select an item category";
 
 core::Message Information(std::string text, std::optional<std::string> title = std::nullopt)
@@ -239,7 +242,8 @@ void frmItemExplorer::DrawCells(const ItemList& list)
         cell.Clear();
         cell.ShowPicture(picture_);
         if (isNew && i > 0) {
-            const auto place = PlaceOfNewCell(Cell(i - 1).Place(), Cell(0).x(), width());
+            const auto place =
+                PlaceOfNewCell(Cell(i - 1).Place(), Cell(0).x(), width() - Scaled(BesideGrid) + BesideGrid);
             cell.move(place.left, place.top);
         }
         cell.tag = text;
@@ -340,6 +344,7 @@ void frmItemExplorer::CellGotFocus(ItemCell& cell)
     PaintCell(cell, id);
     cell.DrawFrames();
     txtModelID->setText(ui::Text(ModelIdText(id)));
+    cell.setAccessibleName(txtModelID->text());
 }
 
 void frmItemExplorer::CellLostFocus(ItemCell& cell)

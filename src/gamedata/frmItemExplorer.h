@@ -51,6 +51,11 @@ class frmItemExplorer final : public ui::Panel {
     void     MakeLowerRow();
     void     PlaceControlsIn(QSize inner);
 
+    /// How much larger the text is than the usual one, and a length that goes with it. The cells keep the size of
+    /// their pictures.
+    double Scale() const;
+    int    Scaled(int pixels) const;
+
     void HoverModeChosen();
     void RepeatAddChosen();
     void TileModeChosen();

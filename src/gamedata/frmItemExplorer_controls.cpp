@@ -47,13 +47,13 @@ frmItemExplorer::frmItemExplorer(ui::AppContext& context)
     : Panel(context, "frmItemExplorer"), pictures_(context.fileNumbers)
 {
     setWindowTitle(QStringLiteral("Item Explorer"));
-    setMinimumSize(LeastSize);
-    resize(DesignSize);
+    setMinimumSize(Scaled(LeastSize.width()), Scaled(LeastSize.height()));
+    resize(Scaled(DesignSize.width()), Scaled(DesignSize.height()));
     MakeMenu();
     MakeUpperRow();
     MakeGrid();
     MakeLowerRow();
-    PlaceControlsIn(DesignSize);
+    PlaceControlsIn(size());
 
     tmrResize = new QTimer(this);
     tmrResize->setObjectName(QStringLiteral("tmrResize"));
@@ -63,6 +63,17 @@ frmItemExplorer::frmItemExplorer(ui::AppContext& context)
     // Without an interval: it ticks whenever there is nothing else to do.
     savingTimer_ = new QTimer(this);
     OnTick(*savingTimer_, [this] { SavePictures(); });
+}
+
+int frmItemExplorer::Scaled(int pixels) const
+{
+    return qRound(pixels * Scale());
+}
+
+double frmItemExplorer::Scale() const
+{
+    constexpr double UsualDpi = 96;
+    return qMax(1.0, logicalDpiY() / UsualDpi);
 }
 
 void frmItemExplorer::MakeMenu()
@@ -83,7 +94,7 @@ void frmItemExplorer::MakeMenu()
     OnMenu(*repeatAdd_, [this] { RepeatAddChosen(); });
     OnMenu(*tileMode_, [this] { TileModeChosen(); });
     OnMenu(*rebuild, [this] { RebuildCache(); });
-    menuBar_->resize(DesignSize.width(), menuBar_->sizeHint().height());
+    menuBar_->resize(width(), menuBar_->sizeHint().height());
 }
 
 QAction* frmItemExplorer::MakeMode(QMenu* menu, std::string_view name, std::string_view caption, std::string_view hint)
@@ -118,13 +129,14 @@ void frmItemExplorer::MakeUpperRow()
     OnClick(*cmdWipe, [this] { Context().panels.Show("frmWipe"); });
     OnClick(*cmdExit, [this] { Context().panels.Unload(*this); });
 
-    const int top = menuBar_->height() + Margin;
-    comboItemType->setGeometry(Margin, top, MostListWidth, RowHeight);
-    cmdRefreshCategories->setGeometry(0, top, RowHeight, RowHeight);
-    Command1->setGeometry(0, top, RowHeight, RowHeight);
-    cmdRemove->setGeometry(0, top, TightWidth(*cmdRemove), RowHeight);
-    cmdWipe->setGeometry(0, top, TightWidth(*cmdWipe), RowHeight);
-    cmdExit->setGeometry(0, top, ExitWidth, RowHeight);
+    const int top = menuBar_->height() + Scaled(Margin);
+    const int height = Scaled(RowHeight);
+    comboItemType->setGeometry(Scaled(Margin), top, Scaled(MostListWidth), height);
+    cmdRefreshCategories->setGeometry(0, top, height, height);
+    Command1->setGeometry(0, top, height, height);
+    cmdRemove->setGeometry(0, top, TightWidth(*cmdRemove), height);
+    cmdWipe->setGeometry(0, top, TightWidth(*cmdWipe), height);
+    cmdExit->setGeometry(0, top, Scaled(ExitWidth), height);
 }
 
 void frmItemExplorer::MakeGrid()
@@ -135,14 +147,15 @@ void frmItemExplorer::MakeGrid()
     Picture1->setAutoFillBackground(true);
     Picture2 = new QWidget(Picture1);
     Picture2->setObjectName(QStringLiteral("Picture2"));
-    Picture1->move(Margin, std::min(menuBar_->height() + Margin + RowHeight + Gap, LargestGridTop));
+    Picture1->move(Scaled(Margin),
+                   std::min(menuBar_->height() + Scaled(Margin + RowHeight + Gap), Scaled(LargestGridTop)));
 
     VScroll1 = new QScrollBar(Qt::Vertical, this);
     VScroll1->setObjectName(QStringLiteral("VScroll1"));
     VScroll1->setRange(0, DesignMaximum);
     VScroll1->setSingleStep(SmallStep);
     VScroll1->setPageStep(LargeStep);
-    VScroll1->resize(ScrollBarWidth, 0);
+    VScroll1->resize(Scaled(ScrollBarWidth), 0);
     for (QWidget* part : {Picture1, Picture2, static_cast<QWidget*>(VScroll1)}) {
         part->installEventFilter(this);
     }
@@ -167,47 +180,51 @@ void frmItemExplorer::MakeLowerRow()
         ui::MakeTextBox(this, name, HiddenBoxDigits)->hide();
     }
 
-    int        left = Margin + Gap;
-    const auto place = [&left](QWidget& control, int width, int height) {
-        control.setGeometry(left, 0, width, height);
-        left += width + Gap;
+    int        left = Scaled(Margin + Gap);
+    const auto place = [&](QWidget& control, int width) {
+        control.setGeometry(left, 0, width, Scaled(RowHeight));
+        left += width + Scaled(Gap);
     };
-    place(*lblStatusLabel, lblStatusLabel->sizeHint().width(), RowHeight);
-    place(*txtModelID, txtModelID->minimumWidth(), RowHeight);
-    place(*cmdCopyItemID, TightWidth(*cmdCopyItemID), RowHeight);
-    lblStatusText->setGeometry(left, 0, MostProgressWidth, StatusTextHeight);
-    prgLoadCategory->setGeometry(left, 0, MostProgressWidth, ProgressHeight);
+    place(*lblStatusLabel, lblStatusLabel->sizeHint().width());
+    place(*txtModelID, txtModelID->minimumWidth());
+    place(*cmdCopyItemID, TightWidth(*cmdCopyItemID));
+    lblStatusText->setGeometry(left, 0, Scaled(MostProgressWidth), Scaled(StatusTextHeight));
+    prgLoadCategory->setGeometry(left, 0, Scaled(MostProgressWidth), Scaled(ProgressHeight));
 }
 
 void frmItemExplorer::PlaceControlsIn(QSize inner)
 {
-    const auto places =
-        PlaceControls(inner.width(), inner.height(),
-                      {.scrollBar = VScroll1->width(), .wipe = cmdWipe->width(), .remove = cmdRemove->width()});
+    // The places are told for text of the usual size.
+    const auto usual = [scale = Scale()](int pixels) { return qRound(pixels / scale); };
+    const auto places = PlaceControls(
+        usual(inner.width()), usual(inner.height()),
+        {.scrollBar = usual(VScroll1->width()), .wipe = usual(cmdWipe->width()), .remove = usual(cmdRemove->width())});
     const auto moveLeft = [](QWidget& control, int left) { control.move(left, control.y()); };
-    const auto moveTop = [](QWidget& control, int top) { control.move(control.x(), top); };
+    const auto moveTop = [this](QWidget& control, int top) { control.move(control.x(), Scaled(top)); };
 
-    Picture1->resize(places.viewportWidth, places.viewportHeight);
-    VScroll1->setGeometry(places.scrollBarLeft, Picture1->y(), VScroll1->width(), Picture1->height());
-    moveLeft(*cmdExit, places.exitLeft);
-    moveLeft(*cmdWipe, places.wipeLeft);
-    moveLeft(*cmdRemove, places.removeLeft);
+    Picture1->resize(Scaled(places.viewportWidth), Scaled(places.viewportHeight));
+    VScroll1->setGeometry(Scaled(places.scrollBarLeft), Picture1->y(), VScroll1->width(), Picture1->height());
+    moveLeft(*cmdExit, Scaled(places.exitLeft));
+    moveLeft(*cmdWipe, Scaled(places.wipeLeft));
+    moveLeft(*cmdRemove, Scaled(places.removeLeft));
     for (auto* control : {static_cast<QWidget*>(lblStatusLabel), static_cast<QWidget*>(txtModelID),
                           static_cast<QWidget*>(cmdCopyItemID)}) {
         moveTop(*control, places.modelRowTop);
     }
     moveTop(*lblStatusText, places.statusTextTop);
     moveTop(*prgLoadCategory, places.progressTop);
-    Picture2->resize(places.viewportWidth, Picture2->height());
+    Picture2->resize(Picture1->width(), Picture2->height());
 
     // What has no place of its own takes the room that is left.
-    const int room = places.removeLeft - Margin - 3 * GapInUpperRow - 2 * RowHeight;
-    comboItemType->resize(std::clamp(room, LeastListWidth, MostListWidth), RowHeight);
-    moveLeft(*cmdRefreshCategories, comboItemType->geometry().right() + 1 + GapInUpperRow);
-    moveLeft(*Command1, cmdRefreshCategories->geometry().right() + 1 + GapInUpperRow);
-    const int progress = std::clamp(inner.width() - Gap - prgLoadCategory->x(), LeastProgressWidth, MostProgressWidth);
-    lblStatusText->resize(progress, StatusTextHeight);
-    prgLoadCategory->resize(progress, ProgressHeight);
+    const int gap = Scaled(GapInUpperRow);
+    const int room = cmdRemove->x() - Scaled(Margin) - 3 * gap - cmdRefreshCategories->width() - Command1->width();
+    comboItemType->resize(std::clamp(room, Scaled(LeastListWidth), Scaled(MostListWidth)), Scaled(RowHeight));
+    moveLeft(*cmdRefreshCategories, comboItemType->geometry().right() + 1 + gap);
+    moveLeft(*Command1, cmdRefreshCategories->geometry().right() + 1 + gap);
+    const int progress = std::clamp(inner.width() - Scaled(Gap) - prgLoadCategory->x(), Scaled(LeastProgressWidth),
+                                    Scaled(MostProgressWidth));
+    lblStatusText->resize(progress, lblStatusText->height());
+    prgLoadCategory->resize(progress, prgLoadCategory->height());
 }
 
 } // namespace qf::gamedata

@@ -50,6 +50,7 @@ void frmItemExplorer::keyPressEvent(QKeyEvent* event)
     case Qt::Key_Right: MoveFocus(*cell, Step::Right); break;
     case Qt::Key_Up: MoveFocus(*cell, Step::Up); break;
     case Qt::Key_Down: MoveFocus(*cell, Step::Down); break;
+    case Qt::Key_Space:
     case Qt::Key_Return:
     case Qt::Key_Enter: Guard([&] { AddItemOf(*cell); }); break;
     default: Panel::keyPressEvent(event);

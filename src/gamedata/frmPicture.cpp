@@ -15,6 +15,7 @@ frmPicture::frmPicture(ui::AppContext& context) : Panel(context, "frmPicture"), 
 {
     setWindowTitle(QStringLiteral("Picture"));
     pctMain->setObjectName(QStringLiteral("pctMain"));
+    pctMain->setAccessibleName(QStringLiteral("Picture of the tile"));
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(Margin, Margin, Margin, Margin);
     // The panel follows the picture at once, also to a smaller size.

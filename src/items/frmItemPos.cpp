@@ -53,6 +53,7 @@ QGroupBox* frmItemPos::MakeValueFrame(std::string_view name, std::string_view ca
         if (row.box == boxName) {
             auto* button = ui::MakeButton(frame, row.name, row.caption);
             button->setMaximumWidth(button->sizeHint().height() * 4 / 3);
+            button->setAccessibleName(ui::Text(caption) + QLatin1Char(' ') + button->text());
             OnClick(*button, [box, &row] { box->setText(ui::Text(Stepped(ui::Utf8(box->text()), row.step))); });
             number->addWidget(button);
         }

@@ -215,10 +215,12 @@ QGroupBox* frmItems::MakePreviewFrame()
     auto* frame = ui::MakeFrame(this, "fraPreview", "Tile");
     pctMain = new ui::PictureSurface(frame);
     pctMain->setObjectName(QStringLiteral("pctMain"));
+    pctMain->setAccessibleName(QStringLiteral("Picture of the item"));
     auto* place = ui::MakePicturePlace(frame, *pctMain);
     auto* id = ui::MakeTextBox(frame, "txtItemID", IdDigits);
     id->setToolTip(QStringLiteral("Click to copy ID"));
     id->setReadOnly(true);
+    id->setAccessibleName(QStringLiteral("Item ID"));
     id->setAlignment(Qt::AlignCenter);
     id->setMaximumWidth(place->width());
     OnClick(*id, [this, id] {

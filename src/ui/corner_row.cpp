@@ -4,6 +4,12 @@
 
 namespace qf::ui {
 
+namespace {
+
+constexpr int FetchColumn = 4;
+
+} // namespace
+
 void AddCornerRow(QWidget* frame, QGridLayout& layout, int line, const CornerRow& row, int digits,
                   const std::function<QWidget*()>& makeFetch)
 {
@@ -13,7 +19,9 @@ void AddCornerRow(QWidget* frame, QGridLayout& layout, int line, const CornerRow
     layout.addWidget(x, line, 1);
     layout.addWidget(MakeLabelFor(y, "", row.labelY), line, 2);
     layout.addWidget(y, line, 3);
-    layout.addWidget(makeFetch(), line, 4);
+    layout.addWidget(makeFetch(), line, FetchColumn);
+    // Labels stay beside their boxes, however wide the frame is.
+    layout.setColumnStretch(FetchColumn, 1);
 }
 
 } // namespace qf::ui

@@ -9,6 +9,7 @@
 
 #include "core/number_rules.h"
 #include "ui/close_entry.h"
+#include "ui/keyboard.h"
 #include "ui/parts.h"
 
 namespace qf::ui {
@@ -25,6 +26,12 @@ int ToPixels(int twips)
 bool TakesClickFocus(const QWidget& control)
 {
     return (control.focusPolicy() & Qt::ClickFocus) != 0;
+}
+
+bool TakesKeysOfButton(const QWidget& control)
+{
+    const auto* box = qobject_cast<const QLineEdit*>(&control);
+    return qobject_cast<const QLabel*>(&control) != nullptr || (box != nullptr && box->isReadOnly());
 }
 
 } // namespace
@@ -190,6 +197,13 @@ void Panel::OnTick(QTimer& timer, std::function<void()> handler)
     connect(&timer, &QTimer::timeout, this, [this, handler = std::move(handler)] { Guard(handler); });
 }
 
+void Panel::SetDefault(QPushButton& button)
+{
+    button.setDefault(true);
+    button.setFocus();
+    defaultButton_ = &button;
+}
+
 void Panel::AddPositionControl(const PositionRow& row)
 {
     auto* control = findChild<QWidget*>(Text(row.control));
@@ -217,6 +231,35 @@ QLineEdit& Panel::Box(std::string_view name) const
 void Panel::Guard(const std::function<void()>& handler)
 {
     context_.environment.process.Run(handler);
+}
+
+void Panel::keyPressEvent(QKeyEvent* event)
+{
+    const bool isEnter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+    auto*      button = qobject_cast<QAbstractButton*>(focusWidget());
+    if (isEnter && button != nullptr && !button->isCheckable()) {
+        button->click();
+        return;
+    }
+    if (isEnter && defaultButton_ != nullptr && defaultButton_->isEnabled()) {
+        defaultButton_->click();
+        return;
+    }
+    QWidget::keyPressEvent(event);
+}
+
+bool Panel::focusNextPrevChild(bool next)
+{
+    KeepOptionsInReach(*this);
+    return QWidget::focusNextPrevChild(next);
+}
+
+void Panel::changeEvent(QEvent* event)
+{
+    QWidget::changeEvent(event);
+    if (event->type() == QEvent::PaletteChange) {
+        RefreshBackgrounds(*this);
+    }
 }
 
 void Panel::closeEvent(QCloseEvent* event)
@@ -282,8 +325,7 @@ bool Panel::eventFilter(QObject* object, QEvent* event)
     case QEvent::KeyPress: {
         // What is clicked without being a button takes the keys of one where the keyboard reaches it.
         const int key = static_cast<QKeyEvent*>(event)->key();
-        if (qobject_cast<QLabel*>(control) != nullptr &&
-            (key == Qt::Key_Space || key == Qt::Key_Return || key == Qt::Key_Enter)) {
+        if (TakesKeysOfButton(*control) && (key == Qt::Key_Space || key == Qt::Key_Return || key == Qt::Key_Enter)) {
             return InvokeClick(*control);
         }
         break;

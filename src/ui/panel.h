@@ -6,6 +6,7 @@
 #include <QCheckBox>
 #include <QComboBox>
 #include <QLineEdit>
+#include <QPushButton>
 #include <QTimer>
 #include <QWidget>
 #include <functional>
@@ -101,6 +102,9 @@ class Panel : public QWidget {
     /// Runs at each tick.
     void OnTick(QTimer& timer, std::function<void()> handler);
 
+    /// Makes a button the one that Enter presses where the focus is on no other one, and where the focus is first.
+    void SetDefault(QPushButton& button);
+
     /// Makes a control fill boxes from the player's place; the controls named by the row are there already.
     void AddPositionControl(const PositionRow& row);
 
@@ -109,6 +113,10 @@ class Panel : public QWidget {
     /// The text box of this name.
     QLineEdit& Box(std::string_view name) const;
 
+    /// Enter presses the button that has the focus, as Space does.
+    void keyPressEvent(QKeyEvent* event) override;
+    bool focusNextPrevChild(bool next) override;
+    void changeEvent(QEvent* event) override;
     void closeEvent(QCloseEvent* event) override;
     void showEvent(QShowEvent* event) override;
     void hideEvent(QHideEvent* event) override;
@@ -129,6 +137,8 @@ class Panel : public QWidget {
     Handlers              blur_;
     Handlers              choose_;
     std::function<void()> afterModal_;
+
+    QPushButton* defaultButton_ = nullptr;
 
     /// The control whose double click is not released yet.
     QWidget* doubleClicked_ = nullptr;

@@ -6,11 +6,16 @@
 #include <utility>
 
 #include "core/runtime_error.h"
+#include "ui/keyboard.h"
 #include "ui/panel.h"
+#include "ui/spoken.h"
 
 namespace qf::ui {
 
-Panels::Panels(AppContext& context, std::span<const PanelEntry> list) : context_(context), list_(list) {}
+Panels::Panels(AppContext& context, std::span<const PanelEntry> list) : context_(context), list_(list)
+{
+    InstallSpokenRoles();
+}
 
 Panels::~Panels()
 {
@@ -45,6 +50,8 @@ Panel& Panels::Touch(std::string_view name)
     loaded_.push_back(entry->make(context_));
     auto& panel = *loaded_.back();
     panel.Load();
+    SetReadingOrder(panel);
+    NameForScreenReaders(panel);
     return panel;
 }
 

@@ -2,6 +2,10 @@
 
 #include <QApplication>
 #include <QPalette>
+#include <algorithm>
+#include <cmath>
+
+#include "ui/click_label.h"
 
 namespace qf::ui {
 
@@ -15,6 +19,31 @@ Control* Named(Control* control, std::string_view name)
     }
     return control;
 }
+
+/// What a box remembers of its background.
+constexpr auto BackgroundProperty = "qfBackground";
+
+/// The share of white's light that a colour has.
+double Luminance(const QColor& colour)
+{
+    const auto linear = [](double part) {
+        return part <= 0.04045 ? part / 12.92 : std::pow((part + 0.055) / 1.055, 2.4);
+    };
+    return 0.2126 * linear(colour.redF()) + 0.7152 * linear(colour.greenF()) + 0.0722 * linear(colour.blueF());
+}
+
+/// A push button with the same room around every caption, long ones too.
+class Button final : public QPushButton {
+  public:
+    using QPushButton::QPushButton;
+
+    QSize sizeHint() const override
+    {
+        const int text = fontMetrics().size(Qt::TextShowMnemonic, this->text()).width();
+        return QPushButton::sizeHint().expandedTo({text == 0 ? 0 : text + fontMetrics().height() * 5 / 4, 0});
+    }
+    QSize minimumSizeHint() const override { return sizeHint(); }
+};
 
 } // namespace
 
@@ -31,7 +60,7 @@ std::string Utf8(const QString& text)
 
 QPushButton* MakeButton(QWidget* parent, std::string_view name, std::string_view caption, std::string_view toolTip)
 {
-    auto* button = Named(new QPushButton(Text(caption), parent), name);
+    auto* button = Named(new Button(Text(caption), parent), name);
     button->setToolTip(Text(toolTip));
     button->setAutoDefault(false);
     return button;
@@ -72,13 +101,11 @@ QLabel* MakeLabelFor(QWidget* buddy, std::string_view name, std::string_view cap
 
 QLabel* MakeClickLabel(QWidget* parent, std::string_view name, std::string_view caption, std::string_view toolTip)
 {
-    auto* label = MakeLabel(parent, name, caption);
+    auto* label = Named(new ClickLabel(Text(caption), parent), name);
     label->setToolTip(Text(toolTip));
     label->setAlignment(Qt::AlignCenter);
     label->setFrameStyle(QFrame::Panel | QFrame::Raised);
     label->setMargin(label->fontMetrics().height() / 4);
-    label->setFocusPolicy(Qt::TabFocus);
-    label->setCursor(Qt::PointingHandCursor);
     return label;
 }
 
@@ -101,6 +128,7 @@ QLabel* MakeTitle(QWidget* parent, std::string_view name, std::string_view capti
 
 void SetBackground(QLineEdit& box, BoxBackground background)
 {
+    box.setProperty(BackgroundProperty, static_cast<int>(background));
     const auto role = background == BoxBackground::Info ? QPalette::ToolTipBase : QPalette::Button;
     const auto text = background == BoxBackground::Info ? QPalette::ToolTipText : QPalette::ButtonText;
     const auto system = QApplication::palette();
@@ -111,6 +139,21 @@ void SetBackground(QLineEdit& box, BoxBackground background)
     own.setColor(QPalette::Active, QPalette::Text, system.color(QPalette::Active, text));
     own.setColor(QPalette::Inactive, QPalette::Text, system.color(QPalette::Active, text));
     box.setPalette(own);
+}
+
+void RefreshBackgrounds(const QWidget& panel)
+{
+    for (auto* box : panel.findChildren<QLineEdit*>()) {
+        if (const auto background = box->property(BackgroundProperty); background.isValid()) {
+            SetBackground(*box, static_cast<BoxBackground>(background.toInt()));
+        }
+    }
+}
+
+double Contrast(const QColor& one, const QColor& other)
+{
+    const auto [darker, lighter] = std::minmax({Luminance(one), Luminance(other)});
+    return (lighter + 0.05) / (darker + 0.05);
 }
 
 void SelectWhole(QLineEdit& box)

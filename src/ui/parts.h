@@ -44,6 +44,12 @@ QLabel* MakeTitle(QWidget* parent, std::string_view name, std::string_view capti
 enum class BoxBackground { Info, ButtonFace };
 void SetBackground(QLineEdit& box, BoxBackground background);
 
+/// Gives the boxes of a panel the same backgrounds again in the system's new colours.
+void RefreshBackgrounds(const QWidget& panel);
+
+/// The contrast of two colours as the accessibility guidelines count it, from 1 to 21; text is read well from 4.5 on.
+double Contrast(const QColor& one, const QColor& other);
+
 /// Selects the whole text of a box that gets the focus, also when a click brings the focus.
 void SelectWhole(QLineEdit& box);
 

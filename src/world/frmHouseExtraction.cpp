@@ -123,6 +123,7 @@ QWidget* frmHouseExtraction::MakeGrid()
     place->setFrameStyle(QFrame::StyledPanel | QFrame::Sunken);
     flxItems = new QTableView(place);
     flxItems->setObjectName(QStringLiteral("flxItems"));
+    flxItems->setAccessibleName(QStringLiteral("Items of the world"));
     flxItems->setFrameShape(QFrame::NoFrame);
     flxItems->setSelectionBehavior(QAbstractItemView::SelectRows);
     flxItems->setSelectionMode(QAbstractItemView::SingleSelection);

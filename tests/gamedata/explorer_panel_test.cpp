@@ -125,6 +125,15 @@ TEST_F(ItemExplorer, AddsTheFocusedCellByEnter)
     EXPECT_EQ(Typed(), std::vector<std::string>{"'add 0x67"});
 }
 
+TEST_F(ItemExplorer, AddsTheFocusedCellByTheSpaceBar)
+{
+    Choose(1);
+    QTest::mouseClick(&Cell(3), Qt::LeftButton);
+    QTest::keyClick(&Cell(3), Qt::Key_Space);
+    EXPECT_EQ(Typed(), std::vector<std::string>{"'add 0x67"});
+    EXPECT_EQ(ui::Utf8(Cell(3).accessibleName()), "0x67 (103)");
+}
+
 TEST_F(ItemExplorer, AddsOnceByADoubleClick)
 {
     Choose(1);

@@ -8,6 +8,7 @@
 #include "app/settings/store_factory.h"
 #include "app/setup/setup_dialog.h"
 #include "core/installed_folders.h"
+#include "ui/desktop_colours.h"
 #include "ui/parts.h"
 
 namespace {
@@ -62,7 +63,9 @@ int main(int argc, char** argv)
     if (!asks && !options.start) {
         return 0;
     }
-    const QApplication application(argc, argv);
+    qf::ui::AskForDesktopColours();
+    QApplication application(argc, argv);
+    qf::ui::FollowDesktopColours(application);
     if (asks && qf::app::SetupDialog(*store, PracticeArt()).exec() != QDialog::Accepted) {
         return 1;
     }
