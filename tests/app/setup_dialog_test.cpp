@@ -1,6 +1,7 @@
 #include "app/setup/setup_dialog.h"
 
 #include <QApplication>
+#include <QDir>
 #include <QLineEdit>
 #include <QMessageBox>
 #include <QPushButton>
@@ -56,7 +57,8 @@ TEST_F(SetupDialogTest, StartsWithTheNewerGenerationAndSaves)
 TEST_F(SetupDialogTest, OffersThePracticeArtAndSavesIt)
 {
     SetupDialog dialog(store, "/usr/share/quernfield/PracticeArt");
-    EXPECT_EQ(Child<QLineEdit>(dialog, "txtPathUO").text(), QStringLiteral("/usr/share/quernfield/PracticeArt"));
+    EXPECT_EQ(Child<QLineEdit>(dialog, "txtPathUO").text(),
+              QDir::toNativeSeparators(QStringLiteral("/usr/share/quernfield/PracticeArt")));
     EXPECT_TRUE(store.log.empty());
     Child<QPushButton>(dialog, "cmdSave").click();
     EXPECT_EQ(store.Find("Configuration", "UOPath"), "\\usr\\share\\quernfield\\PracticeArt\\");
