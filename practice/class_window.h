@@ -9,6 +9,9 @@ namespace qf::practice {
 
 /// A small window of the class "Ultima Online" that shows the player's position. A classic client's window
 /// is found by this class, and its process is then the one whose memory is read.
+///
+/// On Windows there is a hidden window as well, by which an assist program tells the position: one of the class
+/// "UOASSIST-TP-MSG-WND" that answers message 1226 with X in the low and Y in the high 16 bits.
 class ClassWindow {
   public:
     /// Opens the window. Throws std::runtime_error where the desktop does not allow it.

@@ -6,8 +6,9 @@
 
 namespace qf::practice {
 
-/// The player's position in this process's memory, where a reader from outside looks for it first: at
-/// 0x400000 as three 32-bit little-endian numbers, Z, Y and X.
+/// The player's position in this process's memory, where a reader from outside looks for it: three 32-bit
+/// little-endian numbers, Z, Y and X, in readable memory that begins at 0x400000. On Windows that is the program's
+/// image, which is linked to stand there; elsewhere the position lies at the address itself.
 class PositionMemory {
   public:
     static constexpr std::size_t Address = 0x400000;

@@ -1,20 +1,26 @@
 #include <windows.h>
 
+#include <array>
+
 #include "practice/position_memory.h"
 
 namespace qf::practice {
 
-PositionMemory::PositionMemory()
-    : memory_(static_cast<std::byte*>(
-          VirtualAlloc(reinterpret_cast<void*>(Address), Size, MEM_RESERVE | MEM_COMMIT, PAGE_READWRITE)))
-{}
+namespace {
 
-PositionMemory::~PositionMemory()
+std::array<std::byte, 12> place{};
+
+} // namespace
+
+PositionMemory::PositionMemory()
 {
-    if (memory_ != nullptr) {
-        VirtualFree(memory_, 0, MEM_RELEASE);
+    // A system that is told to move every program elsewhere moves this one too.
+    if (GetModuleHandleW(nullptr) == reinterpret_cast<HMODULE>(Address)) {
+        memory_ = place.data();
     }
 }
+
+PositionMemory::~PositionMemory() = default;
 
 void PositionMemory::Write(const Position& position)
 {

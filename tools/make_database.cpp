@@ -16,6 +16,8 @@ int main(int argc, char** argv)
         const std::filesystem::path file(argv[1]);
         if (!std::filesystem::exists(file)) {
             qf::world::CreateWorldDatabase(file);
+            // Opened once as the program opens it at its start, so that a start alone changes nothing in it.
+            qf::world::UpgradeDatabase(*qf::world::Database::Open(file));
         }
     } catch (const std::exception& error) {
         std::cerr << argv[1] << ": " << error.what() << '\n';

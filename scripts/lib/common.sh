@@ -9,6 +9,8 @@ packages_linux_package=(dpkg-dev gzip lintian man-db desktop-file-utils appstrea
 # Wine's window stack is right only where it finds these X libraries, which its packages merely recommend.
 packages_windows=(g++-mingw-w64-x86-64-posix wine wine64 dpkg-dev make gcc tcl libsdl2-dev libsqlite3-dev qt6-base-dev
     libxcomposite1 libxcursor1 libxi6 libxinerama1 libxrandr2 libxrender1 libxfixes3 libxxf86vm1)
+packages_windows_package=(g++-mingw-w64-x86-64-posix dpkg-dev make gcc tcl libsdl2-dev libsqlite3-dev qt6-base-dev
+    googletest nsis zip imagemagick)
 
 # Run apt-get with the rights that it needs.
 as_root() {

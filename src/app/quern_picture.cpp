@@ -3,37 +3,95 @@
 #include <QGuiApplication>
 #include <QLinearGradient>
 #include <QPainter>
+#include <algorithm>
+#include <cmath>
 
 namespace qf::app {
 
 namespace {
 
-/// One millstone: a disc with a rim, in a square of side 1. `top` is the height of its upper face.
-void DrawStone(QPainter& painter, double top, double thickness, double radius, const QColor& light, const QColor& dark)
+/// The square of side 1 in which the emblem is drawn, with the pixels that it will have. Below 48 pixels outlines lie
+/// on whole pixels and are one of them wide, or nothing of them would be left but a haze.
+class Grid {
+  public:
+    explicit Grid(int size) : size_(size), coarse_(size < 48) {}
+
+    double Pixel() const { return 1.0 / size_; }
+    double Outline() const { return coarse_ ? Pixel() : std::max(0.012, 0.75 * Pixel()); }
+    bool   IsCoarse() const { return coarse_; }
+
+    /// Whether a stone has too few rows for an outline between its face and its rim.
+    bool IsTiny() const { return size_ < 20; }
+
+    /// The place of an outline.
+    double Line(double place) const { return coarse_ ? (std::floor(place * size_) + 0.5) / size_ : place; }
+
+    /// The place of an edge between two pixels, and a length of whole pixels.
+    double Edge(double place) const { return coarse_ ? std::round(place * size_) / size_ : place; }
+
+  private:
+    int  size_;
+    bool coarse_;
+};
+
+/// One millstone: a disc with a rim. `middle` is the height of its upper face.
+void DrawStone(QPainter& painter, const Grid& grid, double middle, double thickness, double radius, const QColor& light,
+               const QColor& dark)
 {
-    const double    flat = radius * 0.46;
-    const QRectF    face(0.5 - radius, top - flat, 2 * radius, 2 * flat);
+    const double flat = radius * 0.46;
+    const double left = grid.Line(0.5 - radius);
+    const QRectF face(QPointF(left, grid.Line(middle - flat)), QPointF(1 - left, grid.Line(middle + flat)));
+    const double height = grid.Edge(thickness);
+    const double top = face.center().y();
+
     QLinearGradient side(face.left(), 0, face.right(), 0);
     side.setColorAt(0, dark);
     side.setColorAt(0.35, light.darker(112));
     side.setColorAt(1, dark.darker(130));
     painter.setBrush(side);
-    painter.drawEllipse(face.translated(0, thickness));
-    painter.fillRect(QRectF(face.left(), top, face.width(), thickness), side);
-    painter.drawLine(QPointF(face.left(), top), QPointF(face.left(), top + thickness));
-    painter.drawLine(QPointF(face.right(), top), QPointF(face.right(), top + thickness));
+    painter.drawEllipse(face.translated(0, height));
+    painter.fillRect(QRectF(face.left(), top, face.width(), height), side);
+    painter.drawLine(QPointF(face.left(), top), QPointF(face.left(), top + height));
+    painter.drawLine(QPointF(face.right(), top), QPointF(face.right(), top + height));
 
     QLinearGradient upper(face.topLeft(), face.bottomRight());
     upper.setColorAt(0, light.lighter(112));
     upper.setColorAt(1, light.darker(110));
     painter.setBrush(upper);
     painter.drawEllipse(face);
+    if (grid.IsTiny()) {
+        const double half = grid.Pixel() / 2;
+        painter.save();
+        painter.setPen(Qt::NoPen);
+        painter.drawEllipse(face.adjusted(half, half, -half, half));
+        painter.restore();
+    }
+}
+
+/// The handle, an upright line with a highlight on its left half.
+void DrawHandle(QPainter& painter, const Grid& grid, double x, double top, double bottom)
+{
+    const QColor wood(96, 62, 34);
+    const QColor highlight(150, 102, 60);
+    if (grid.IsCoarse()) {
+        const double width = std::max(2 * grid.Pixel(), grid.Edge(0.07));
+        const QRectF handle(QPointF(grid.Edge(x) - grid.Pixel(), grid.Edge(top)),
+                            QSizeF(width, grid.Edge(bottom) - grid.Edge(top)));
+        painter.fillRect(handle, wood);
+        painter.fillRect(QRectF(handle.topLeft(), QSizeF(grid.Pixel(), handle.height())), highlight);
+        return;
+    }
+    painter.setPen(QPen(wood, 0.07, Qt::SolidLine, Qt::RoundCap));
+    painter.drawLine(QPointF(x, bottom), QPointF(x, top));
+    painter.setPen(QPen(highlight, 0.03, Qt::SolidLine, Qt::RoundCap));
+    painter.drawLine(QPointF(x - 0.008, bottom - 0.02), QPointF(x - 0.008, top + 0.01));
 }
 
 } // namespace
 
 QPixmap QuernPicture(int size)
 {
+    const Grid grid(size);
     // As many pixels as the screen has for it.
     const double ratio = qGuiApp->devicePixelRatio();
     QPixmap      picture(qRound(size * ratio), qRound(size * ratio));
@@ -42,17 +100,18 @@ QPixmap QuernPicture(int size)
     QPainter painter(&picture);
     painter.setRenderHint(QPainter::Antialiasing);
     painter.scale(size, size);
-    painter.setPen(QPen(QColor(58, 52, 46), 0.012));
+    painter.setPen(QPen(QColor(58, 52, 46), grid.Outline()));
 
-    DrawStone(painter, 0.66, 0.13, 0.45, QColor(150, 142, 130), QColor(104, 97, 88));
-    DrawStone(painter, 0.46, 0.16, 0.37, QColor(188, 180, 166), QColor(128, 120, 109));
+    DrawStone(painter, grid, 0.61, 0.14, 0.46, QColor(150, 142, 130), QColor(104, 97, 88));
+    DrawStone(painter, grid, 0.40, 0.17, 0.37, QColor(196, 188, 174), QColor(134, 126, 114));
 
     painter.setBrush(QColor(70, 62, 54));
-    painter.drawEllipse(QRectF(0.41, 0.42, 0.18, 0.083));
-    painter.setPen(QPen(QColor(96, 62, 34), 0.07, Qt::SolidLine, Qt::RoundCap));
-    painter.drawLine(QPointF(0.73, 0.47), QPointF(0.73, 0.14));
-    painter.setPen(QPen(QColor(150, 102, 60), 0.03, Qt::SolidLine, Qt::RoundCap));
-    painter.drawLine(QPointF(0.722, 0.45), QPointF(0.722, 0.15));
+    if (grid.IsCoarse()) {
+        painter.setPen(Qt::NoPen);
+    }
+    const double left = grid.Edge(0.40);
+    painter.drawEllipse(QRectF(QPointF(left, grid.Edge(0.36)), QPointF(1 - left, grid.Edge(0.46))));
+    DrawHandle(painter, grid, 0.73, 0.08, 0.42);
     return picture;
 }
 
