@@ -6,11 +6,19 @@ packages_show=(xvfb xauth openbox xdotool imagemagick fonts-dejavu-core)
 packages_test=(libgtest-dev libgmock-dev googletest x11-xkb-utils x11-xserver-utils)
 packages_fuzz=(clang libclang-rt-14-dev)
 packages_linux_package=(dpkg-dev gzip lintian man-db desktop-file-utils appstream binutils)
+packages_coverage=(clang libclang-rt-14-dev llvm)
+packages_mutation=(lld perl-base)
 # Wine's window stack is right only where it finds these X libraries, which its packages merely recommend.
 packages_windows=(g++-mingw-w64-x86-64-posix wine wine64 dpkg-dev make gcc tcl libsdl2-dev libsqlite3-dev qt6-base-dev
     libxcomposite1 libxcursor1 libxi6 libxinerama1 libxrandr2 libxrender1 libxfixes3 libxxf86vm1)
 packages_windows_package=(g++-mingw-w64-x86-64-posix dpkg-dev make gcc tcl libsdl2-dev libsqlite3-dev qt6-base-dev
     googletest nsis zip imagemagick)
+
+# The programs of the unit tests of the libraries that know no Qt.
+pure_tests=(core_tests client_tests gamedata_tests clothing_tests dye_tests explorer_tests world_database_tests
+    world_loader_tests world_extraction_tests world_template_tests world_round_trip_tests construction_tests items_tests
+    console_tests shipped_texts_tests settings_tests app_tests options_tests program_folder_tests
+    setup_tests)
 
 # Run apt-get with the rights that it needs.
 as_root() {

@@ -179,6 +179,14 @@ TEST(GMCommands, DyeAsksForTheClientsFolder)
     EXPECT_EQ(Step("cmdDye", Neither, fields).target, "frmDye");
 }
 
+TEST(GMCommands, AreFoundByTheirNames)
+{
+    ASSERT_NE(FindGMCommand("cmdDye"), nullptr);
+    EXPECT_EQ(FindGMCommand("cmdDye")->name, "cmdDye");
+    EXPECT_EQ(FindGMCommand("cmddye"), nullptr);
+    EXPECT_EQ(FindGMCommand(""), nullptr);
+}
+
 TEST(GMCommands, HaveNamesOfTheirOwn)
 {
     std::set<std::string_view> names;

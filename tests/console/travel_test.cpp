@@ -386,18 +386,19 @@ TEST(Travel, AGroupShowsItsListAndLeavesTheBoxes)
     }
 }
 
-TEST(Travel, EveryButtonHasItsCaptionAndCommand)
+TEST(Travel, EveryButtonHasItsCaptionCommandAndToolTip)
 {
-    const std::array<std::array<std::string, 3>, 5> expected{{
-        {"cmdGoPlace", "Teleport", "send go 10 -20 +30"},
-        {"cmdXGoPlace", "Teleport Other", "send xgo 10 -20 +30"},
-        {"cmdCharTele", "Teleport to target location", "send rtele"},
-        {"cmdXTele", "Teleport char/item to target location", "send telestuff"},
-        {"cmdTravelWhere", "Where am I?", "send where"},
+    const std::array<std::array<std::string, 4>, 5> expected{{
+        {"cmdGoPlace", "Teleport", "send go 10 -20 +30", "Takes you to X, Y, Z"},
+        {"cmdXGoPlace", "Teleport Other", "send xgo 10 -20 +30", "Takes a target to X, Y, Z"},
+        {"cmdCharTele", "Teleport to target location", "send rtele", "Takes you to a place you click"},
+        {"cmdXTele", "Teleport char/item to target location", "send telestuff", "Takes what you click to a place"},
+        {"cmdTravelWhere", "Where am I?", "send where", "Tells the place where you stand"},
     }};
     ASSERT_EQ(TravelCommands().size(), expected.size());
-    for (const auto& [name, caption, line] : expected) {
+    for (const auto& [name, caption, line, toolTip] : expected) {
         EXPECT_EQ(CommandOf(name).caption, caption);
+        EXPECT_EQ(CommandOf(name).toolTip, toolTip);
         EXPECT_EQ(LinesOf(name, StateOf("10", "-20", "+30")), Lines{line});
     }
 }

@@ -95,6 +95,9 @@ TEST(Floors, TheOtherCentreOfTwoCarpetsIsSeenInPreviewAndDirectAddAlone)
 {
     EXPECT_EQ(FloorTileId(Carpets, EastWest, 3, Generation09), "0x0ac6");
     EXPECT_EQ(FloorTileId(Carpets, EastWest, 4, Generation09), "0x0abf");
+    EXPECT_EQ(FloorTileId(Carpets, -1, 4, Generation09), "");
+    EXPECT_EQ(FloorTileId(Carpets, EastWest, -1, Generation09), "");
+    EXPECT_EQ(FloorTileId(Carpets, EastWest, 12, Generation09), "");
     EXPECT_EQ(LinesOf(CarpetState(3, EastWest)).front(), "send tile 0x0ac7 101 102 101 101 0");
     EXPECT_EQ(LinesOf(CarpetState(4, EastWest)).front(), "send tile 0x0abd 101 102 101 101 0");
 }

@@ -190,5 +190,16 @@ TEST(Walls, TheShownTileOfABoxIsThePlainWall)
     EXPECT_EQ(ShownWallTileId(Wall(WallLine, WindowWall, ShortWall, WallNorthSouth, 6)), "");
 }
 
+TEST(Walls, WhatIsNotWhollyChosenHasNoTile)
+{
+    EXPECT_EQ(WallTileId(NormalWall, LongWall, WallNorthSouth, 6, Generation09), "0x001b");
+    EXPECT_EQ(WallTileId(-1, LongWall, WallNorthSouth, 6, Generation09), "");
+    EXPECT_EQ(WallTileId(NormalWall, -1, WallNorthSouth, 6, Generation09), "");
+    EXPECT_EQ(WallTileId(NormalWall, LongWall, -1, 6, Generation09), "");
+    EXPECT_EQ(WallTileId(WindowWall, LongWall, -1, 6, Generation09), "");
+    EXPECT_EQ(WallTileId(NormalWall, LongWall, WallNorthSouth, -1, Generation09), "");
+    EXPECT_EQ(WallTileId(NormalWall, LongWall, WallNorthSouth, static_cast<int>(WallRows().size()), Generation09), "");
+}
+
 } // namespace
 } // namespace qf::construction

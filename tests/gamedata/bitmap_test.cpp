@@ -113,15 +113,17 @@ TEST_P(DamagedBitmap, IsRefused)
     EXPECT_TRUE(IsRefused(file));
 }
 
-INSTANTIATE_TEST_SUITE_P(All, DamagedBitmap,
-                         testing::Values(Damage{"another mark", 0, {'P'}}, Damage{"pixels within the header", 10, {20}},
-                                         Damage{"pixels behind the end", 10, {0xFF, 0xFF, 0xFF, 0xFF}},
-                                         Damage{"an older header", 14, {12}}, Damage{"no width", 18, {0}},
-                                         Damage{"a negative width", 18, {0xFF, 0xFF, 0xFF, 0xFF}},
-                                         Damage{"a width beyond the bytes", 18, {0xFF, 0x7F}},
-                                         Damage{"no height", 22, {0}}, Damage{"the least height", 22, {0, 0, 0, 0x80}},
-                                         Damage{"a height beyond the bytes", 22, {3}}, Damage{"two planes", 26, {2}},
-                                         Damage{"a palette", 28, {8}}, Damage{"compression", 30, {1}}));
+INSTANTIATE_TEST_SUITE_P(
+    All, DamagedBitmap,
+    testing::Values(Damage{"another mark", 0, {'P'}}, Damage{"half the mark", 1, {'P'}},
+                    Damage{"pixels within the header", 10, {20}},
+                    Damage{"pixels behind the end", 10, {0xFF, 0xFF, 0xFF, 0xFF}}, Damage{"an older header", 14, {12}},
+                    Damage{"no width", 18, {0}}, Damage{"a negative width", 18, {0xFF, 0xFF, 0xFF, 0xFF}},
+                    Damage{"a width beyond the bytes", 18, {0xFF, 0x7F}}, Damage{"no height", 22, {0}},
+                    Damage{"the least height", 22, {0, 0, 0, 0x80}}, Damage{"a height beyond the bytes", 22, {3}},
+                    Damage{"a height above the limit", 22, {0, 0x80}},
+                    Damage{"a negative height above the limit", 22, {0xFF, 0x7F, 0xFF, 0xFF}},
+                    Damage{"two planes", 26, {2}}, Damage{"a palette", 28, {8}}, Damage{"compression", 30, {1}}));
 
 } // namespace
 } // namespace qf::gamedata

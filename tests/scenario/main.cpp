@@ -77,11 +77,12 @@ int Run(int argc, char** argv)
 {
     std::vector<std::string> files(argv + 1, argv + argc);
     const bool               print = !files.empty() && files.front() == "--print";
-    if (print) {
+    const bool               stop = !files.empty() && files.front() == "--stop";
+    if (print || stop) {
         files.erase(files.begin());
     }
     if (files.empty() || files.front().starts_with("--")) {
-        std::cerr << "usage: quernfield-scenario [--print] FILE.qfs...\n";
+        std::cerr << "usage: quernfield-scenario [--print | --stop] FILE.qfs...\n";
         return 2;
     }
 
@@ -109,6 +110,9 @@ int Run(int argc, char** argv)
             runner.Print(file);
         } else {
             runner.Compare(file);
+        }
+        if (stop && runner.Failed() > 0) {
+            break;
         }
     }
     if (!print) {

@@ -9,6 +9,7 @@
 
 #include "nasty_texts.h"
 #include "support/expect_error.h"
+#include "support/file_size_limit.h"
 #include "support/temp_folder.h"
 
 namespace qf::app {
@@ -170,6 +171,54 @@ TEST_F(FileSettingsStoreTest, AWriterWaitsForTheLockAndGivesUpInTheEnd)
     EXPECT_FALSE(fs::exists(file));
     ::close(lock);
     store.Write("Configuration", "ZarnVer", "1");
+    EXPECT_EQ(store.Find("Configuration", "ZarnVer"), "1");
+}
+
+TEST_F(FileSettingsStoreTest, AFullDiskLeavesTheOldText)
+{
+    store.Write("Configuration", "ZarnVer", "1");
+    const auto before = folder.Read("settings.ini");
+    {
+        const test::FileSizeLimit limit(1000);
+        EXPECT_RUNTIME_ERROR(75, store.Write("Configuration", "UOPath", std::string(2000, 'p')));
+        EXPECT_RUNTIME_ERROR(75, store.Write("Configuration", "UOPath", std::string(2000, 'q')));
+    }
+    EXPECT_EQ(folder.Read("settings.ini"), before);
+    EXPECT_FALSE(fs::exists(folder.Path() / "settings.ini.new"));
+    store.Write("Configuration", "UOPath", std::string(2000, 'p'));
+    EXPECT_EQ(store.Find("Configuration", "UOPath"), std::string(2000, 'p'));
+}
+
+TEST_F(FileSettingsStoreTest, AFolderInThePlaceOfTheNewTextIsAnError)
+{
+    store.Write("Configuration", "ZarnVer", "1");
+    fs::create_directory(folder.Path() / "settings.ini.new");
+    EXPECT_RUNTIME_ERROR(75, store.Write("Configuration", "ZarnVer", "0"));
+    EXPECT_EQ(store.Find("Configuration", "ZarnVer"), "1");
+}
+
+TEST_F(FileSettingsStoreTest, ALinkInThePlaceOfTheLockIsNotFollowed)
+{
+    fs::create_symlink("elsewhere", folder.Path() / "settings.ini.lock");
+    EXPECT_RUNTIME_ERROR(75, store.Write("Configuration", "ZarnVer", "1"));
+    EXPECT_FALSE(fs::exists(folder.Path() / "elsewhere"));
+    EXPECT_FALSE(fs::exists(file));
+}
+
+TEST_F(FileSettingsStoreTest, AFileThatCannotBeReadToItsEndReadsAsAbsentAndCannotBeWritten)
+{
+    // A regular file whose first byte is no memory of the process.
+    FileSettingsStore memory("/proc/self/mem");
+    EXPECT_EQ(memory.Find("Configuration", "ZarnVer"), std::nullopt);
+    EXPECT_RUNTIME_ERROR(75, memory.Write("Configuration", "ZarnVer", "1"));
+}
+
+TEST_F(FileSettingsStoreTest, ANameWithoutAFolderIsInTheFolderOfWork)
+{
+    const auto before = fs::current_path();
+    fs::current_path(folder.Path());
+    FileSettingsStore("settings.ini").Write("Configuration", "ZarnVer", "1");
+    fs::current_path(before);
     EXPECT_EQ(store.Find("Configuration", "ZarnVer"), "1");
 }
 

@@ -1,3 +1,4 @@
+#include <chrono>
 #include <functional>
 #include <gtest/gtest.h>
 #include <random>
@@ -35,8 +36,11 @@ TEST(DatabaseProcesses, LockedByAnotherProcess)
         }
         auto locker = Locker(folder.Path() / "qf.mdb");
         ASSERT_TRUE(locker.IsReady());
+        const auto start = std::chrono::steady_clock::now();
         EXPECT_EQ(FailureOf([&] { Database::Open(folder.Path() / "qf.mdb"); }),
                   std::pair(5, std::string("database is locked")));
+        // A lock that is given back in a moment is waited for.
+        EXPECT_GE(std::chrono::steady_clock::now() - start, std::chrono::milliseconds(200));
         locker.Kill();
         EXPECT_EQ(FailureOf([&] { Database::Open(folder.Path() / "qf.mdb"); }).first, 0);
     }

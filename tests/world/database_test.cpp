@@ -1,5 +1,6 @@
 #include "world/database.h"
 
+#include <functional>
 #include <gtest/gtest.h>
 #include <stdexcept>
 
@@ -251,6 +252,13 @@ TEST_F(DatabaseTest, LiteralsThatCannotBeParametersStillWork)
               Failure(1, "no such column: Nmae"));
 }
 
+TEST_F(DatabaseTest, NumbersWithAPointAreCompared)
+{
+    EXPECT_EQ(database->Query("SELECT 'less' WHERE 1.5 < 1.75"), Rows{{"less"}});
+    EXPECT_EQ(database->Query("SELECT 'less' WHERE 2.5 < 1.75"), Rows{});
+    EXPECT_EQ(database->Query("SELECT 'equal' WHERE 25E-1 = 2.5"), Rows{{"equal"}});
+}
+
 TEST_F(DatabaseTest, RowFunctionMayUseTheDatabase)
 {
     for (int serial = 1; serial <= 20; ++serial) {
@@ -266,6 +274,27 @@ TEST_F(DatabaseTest, RowFunctionMayUseTheDatabase)
     });
     EXPECT_EQ(rows, 20);
     EXPECT_EQ(database->Query("SELECT COUNT(DISTINCT Name) FROM tblItem"), Rows{{"20"}});
+}
+
+TEST_F(DatabaseTest, QueriesWithinQueriesHaveNoLimit)
+{
+    database->Execute(InsertCharacter + "1, 'x', 1, 2, 3, 0, 4, 400, 0 );");
+    constexpr int                  Depth = 40;
+    int                            reached = 0;
+    const std::function<void(int)> descend = [&](int depth) {
+        database->ForEachRow("SELECT Serial FROM tblCharacter WHERE X < " + std::to_string(depth + 2),
+                             [&](std::span<const std::string_view> row) {
+                                 EXPECT_EQ(row[0], "1");
+                                 reached = depth;
+                                 if (depth < Depth) {
+                                     descend(depth + 1);
+                                 }
+                                 EXPECT_EQ(row[0], "1");
+                             });
+    };
+    descend(1);
+    EXPECT_EQ(reached, Depth);
+    EXPECT_EQ(database->Query("SELECT COUNT(*) FROM tblCharacter WHERE X < 5"), Rows{{"1"}});
 }
 
 TEST_F(DatabaseTest, WhatARowFunctionThrowsEndsTheQuery)

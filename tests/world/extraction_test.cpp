@@ -16,6 +16,10 @@
 #include "world/database.h"
 #include "world/item_table.h"
 
+#ifndef _WIN32
+#include "support/file_size_limit.h"
+#endif
+
 namespace qf::world {
 namespace {
 
@@ -331,6 +335,16 @@ TEST_F(ExtractionTest, NamesThatNoFileHas)
     EXPECT_RUNTIME_ERROR(52, Build());
     EXPECT_TRUE(fs::is_empty(folder.Path() / "Templates"));
 }
+
+#ifndef _WIN32
+TEST_F(ExtractionTest, AFullDiskIsToldAndNothingIsCalledDone)
+{
+    database->Commit();
+    const test::FileSizeLimit limit(3);
+    EXPECT_RUNTIME_ERROR(75, Build());
+    EXPECT_EQ(outlet.Lines(), Lines{});
+}
+#endif
 
 TEST_F(ExtractionTest, SeparatorInTheNameLeadsIntoAFolder)
 {

@@ -97,6 +97,14 @@ TEST(SqlShape, LiteralsThatAreNoValuesStay)
     EXPECT_EQ(Shape("INSERT INTO t VALUES( 0x1F, 12abc, t1 )"), "INSERT INTO t VALUES( 0x1F, 12abc, t1 )");
 }
 
+TEST(SqlShape, ASignBelongsToANumberBehindTheLetterOfAnExponent)
+{
+    EXPECT_EQ(Shape("INSERT INTO t VALUES( 1e5, 1E+2, 2e-1, .5, 7., 3E-1x )"),
+              "INSERT INTO t VALUES( ?, ?, ?, ?, ?, 3E-1x )|100000.000000|100.000000|0.200000|0.500000|7.000000");
+    EXPECT_EQ(Shape("INSERT INTO t VALUES( 3-1, 4+2, 5E, 6e, 1_0, 7$, . )"),
+              "INSERT INTO t VALUES( ?-?, ?+?, 5E, 6e, 1_0, 7$, . )|3|1|4|2");
+}
+
 TEST(SqlShape, AStatementThatBeginsLikeTheOneBeforeIsReadTheSame)
 {
     const std::vector<std::string> statements = {

@@ -33,6 +33,7 @@ constexpr Reading readings[] = {
     {"1b 4d 3 4 6",               TemplateKind::Single, Two, "1b 4d ",    "0x1b4d",     3,  3, 4, 4,  6},
     {"TILEW 0x1b4d 0 2 3 4 5",    TemplateKind::Area,   One, "0x1b4d ",   "0x1b4d ",    0,  2, 3, 4,  5},
     {"XLINE 0x1b4d 0 2 3 4",      TemplateKind::AlongX, One, "0x1b4d ",   "0x1b4d ",    0,  2, 3, 3,  4},
+    {"YLINE 0x1b4d 9 3 0 5 7",    TemplateKind::AlongY, One, "0x1b4d 9 ", "0x1b4d 9 ",  3,  3, 0, 5,  7},
     {"0x1b4d 3 4 6",              TemplateKind::Single, One, "0x1b4d ",   "0x1b4d ",    3,  3, 4, 4,  6},
     {"TILEW 1B 4D -1 -2 0 +7 -5", TemplateKind::Area,   Two, "1B 4D ",    "0x1B4D",    -1, -2, 0, 7, -5},
     {"what ever 1.5 2.5 3e1",     TemplateKind::Single, Two, "what ever ", "0xwhatever", 2,  2, 2, 2, 30},

@@ -1,6 +1,7 @@
 #include <algorithm>
 #include <chrono>
 #include <gtest/gtest.h>
+#include <iostream>
 #include <random>
 #include <string>
 #include <thread>
@@ -81,6 +82,7 @@ class KilledLoad : public testing::Test {
             database->Execute("DELETE * FROM tblCharacter;");
             database.reset();
         }
+        std::cout << kills << " kills, " << cut << " of them before the load was done\n";
         EXPECT_GT(cut, kills / 4);
     }
 
