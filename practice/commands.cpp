@@ -5,6 +5,8 @@
 #include <span>
 #include <vector>
 
+#include "core/text.h"
+
 namespace qf::practice {
 
 namespace {
@@ -21,17 +23,6 @@ std::vector<std::string_view> SplitAtBlanks(std::string_view text)
         start = end == std::string_view::npos ? end : text.find_first_not_of(' ', end);
     }
     return words;
-}
-
-std::string Lower(std::string_view text)
-{
-    std::string lower(text);
-    for (char& c : lower) {
-        if (c >= 'A' && c <= 'Z') {
-            c = static_cast<char>(c - 'A' + 'a');
-        }
-    }
-    return lower;
 }
 
 std::optional<int> Decimal(std::string_view word)
@@ -134,7 +125,7 @@ Command ReadWipe(const std::string& word, Words fields)
     if (fields.empty()) {
         return Command{.verb = inside ? Verb::PickWipeInside : Verb::PickWipeOutside, .box = {}, .flaw = {}};
     }
-    if (inside && fields.size() == 1 && Lower(fields[0]) == "all") {
+    if (inside && fields.size() == 1 && core::LowerCase(fields[0]) == "all") {
         return Command{.verb = Verb::WipeAll, .box = {}, .flaw = {}};
     }
     int numbers[4] = {};
@@ -154,7 +145,7 @@ Command ParseCommand(std::string_view text)
     if (words.empty()) {
         return {};
     }
-    const std::string word = Lower(words.front());
+    const std::string word = core::LowerCase(words.front());
     const Words       fields = Words(words).subspan(1);
     if (word == "tile" || word == "tilew") {
         return ReadTile(word, fields);

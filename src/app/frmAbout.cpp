@@ -63,9 +63,7 @@ void frmAbout::Layout()
 
     Label5 = clickable(this, "Label5", "Ground by hand, tile by tile.");
     Label5->setAlignment(Qt::AlignCenter);
-    auto policy = Label5->sizePolicy();
-    policy.setRetainSizeWhenHidden(true);
-    Label5->setSizePolicy(policy);
+    ui::KeepPlaceWhenHidden(*Label5);
     Label5->hide();
 
     auto* address = clickable(this, "Label3", core::HomePage);

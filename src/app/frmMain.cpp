@@ -116,9 +116,7 @@ void frmMain::Layout()
     barLoad->setObjectName(QStringLiteral("barLoad"));
     barLoad->setValue(0);
     barLoad->setTextVisible(false);
-    auto policy = barLoad->sizePolicy();
-    policy.setRetainSizeWhenHidden(true);
-    barLoad->setSizePolicy(policy);
+    ui::KeepPlaceWhenHidden(*barLoad);
     barLoad->hide();
     lowerLayout->addWidget(barLoad);
 

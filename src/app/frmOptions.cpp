@@ -30,14 +30,6 @@ constexpr std::string_view CalibrationInfo =
     "updated to a newer version, and if you switch between UO:R and UO:Third Dawn. The results are saved in the "
     "windows registry, and auto-loaded every time Quernfield is started.";
 
-/// A control that is hidden leaves its place empty, so that nothing jumps when it comes back.
-void KeepPlaceWhenHidden(QWidget& control)
-{
-    auto policy = control.sizePolicy();
-    policy.setRetainSizeWhenHidden(true);
-    control.setSizePolicy(policy);
-}
-
 bool IsTicked(const QCheckBox& box)
 {
     return box.checkState() != Qt::Unchecked;
@@ -145,7 +137,7 @@ QCheckBox* frmOptions::MakeCheck(QWidget* parent, std::string_view name, std::st
     auto* box = new QCheckBox(ui::Text(caption), parent);
     box->setObjectName(ui::Text(name));
     box->setToolTip(ui::Text(toolTip));
-    KeepPlaceWhenHidden(*box);
+    ui::KeepPlaceWhenHidden(*box);
     if (handler) {
         OnCheck(*box, std::move(handler));
     }
@@ -174,7 +166,7 @@ QWidget* frmOptions::MakeCalibration()
         auto* box = ui::MakeTextBox(frame, name, PlaceDigits);
         auto* label = ui::MakeLabelFor(box, labelName, ui::Utf8(ui::Text(name).toUpper()));
         for (QWidget* control : {static_cast<QWidget*>(label), static_cast<QWidget*>(box)}) {
-            KeepPlaceWhenHidden(*control);
+            ui::KeepPlaceWhenHidden(*control);
             place->addWidget(control);
             placeControls_.push_back(control);
         }

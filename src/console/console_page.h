@@ -1,7 +1,6 @@
 #pragma once
 
 #include <QComboBox>
-#include <QLineEdit>
 #include <QWidget>
 #include <functional>
 
@@ -21,10 +20,6 @@ class ConsoleHost {
     virtual core::Outlet& Outlet() = 0;
 
     virtual void OnClick(QWidget& control, std::function<void()> handler) = 0;
-    virtual void OnDoubleClick(QWidget& control, std::function<void()> handler) = 0;
-
-    /// Runs at every change of the box's text, by the user or by code.
-    virtual void OnChange(QLineEdit& box, std::function<void()> handler) = 0;
 
     /// Runs whenever the control gets the keyboard focus.
     virtual void OnFocus(QWidget& control, std::function<void()> handler) = 0;

@@ -25,11 +25,6 @@ class frmGMCommands::Host final : public ConsoleHost {
     {
         panel_.OnClick(control, std::move(handler));
     }
-    void OnDoubleClick(QWidget& control, std::function<void()> handler) override
-    {
-        panel_.OnDoubleClick(control, std::move(handler));
-    }
-    void OnChange(QLineEdit& box, std::function<void()> handler) override { panel_.OnChange(box, std::move(handler)); }
     void OnFocus(QWidget& control, std::function<void()> handler) override
     {
         panel_.OnFocus(control, std::move(handler));
@@ -92,10 +87,7 @@ QGroupBox* frmGMCommands::MakeGroup(QWidget* parent, std::string_view group)
         found != frames.end() ? ui::MakeFrame(parent, found->name, found->caption) : ui::MakeFrame(parent, "", group);
     new QGridLayout(frame);
     if (found != frames.end() && found->startsHidden) {
-        // Nothing on the tab moves when the frame comes and goes.
-        auto policy = frame->sizePolicy();
-        policy.setRetainSizeWhenHidden(true);
-        frame->setSizePolicy(policy);
+        ui::KeepPlaceWhenHidden(*frame);
         frame->hide();
     }
     return frame;

@@ -32,14 +32,6 @@ QComboBox* MakeList(QWidget* parent, std::string_view name, std::string_view acc
     return list;
 }
 
-/// A hidden widget keeps its place, so that nothing moves when it comes and goes.
-void KeepPlace(QWidget& widget)
-{
-    auto policy = widget.sizePolicy();
-    policy.setRetainSizeWhenHidden(true);
-    widget.setSizePolicy(policy);
-}
-
 } // namespace
 
 frmNPC::frmNPC(ui::AppContext& context) : Panel(context, "frmNPC"), optSpawnType(*this, "optSpawnType")
@@ -148,7 +140,7 @@ QGroupBox* frmNPC::MakeScriptList()
     cmbNPCLoad->lineEdit()->setObjectName(QStringLiteral("cmbNPCLoadText"));
     cmbNPCLoad->lineEdit()->setReadOnly(true);
     cmbNPCLoad->setEditText(QStringLiteral("Choose NPC to Spawn"));
-    KeepPlace(*cmbNPCLoad);
+    ui::KeepPlaceWhenHidden(*cmbNPCLoad);
     cmbNPCLoad->hide();
     OnChoose(*cmbNPCLoad, [this] {
         const auto entry = ui::Utf8(cmbNPCLoad->currentText());
@@ -195,7 +187,7 @@ QGroupBox* frmNPC::MakeSpawnArea()
     layout->addWidget(y, 1, 1);
     layout->addWidget(set, 2, 0, 1, 2);
     layout->setColumnStretch(1, 1);
-    KeepPlace(*frmSpawnArea);
+    ui::KeepPlaceWhenHidden(*frmSpawnArea);
     frmSpawnArea->hide();
     return frmSpawnArea;
 }

@@ -166,10 +166,7 @@ QGroupBox* frmWipe::MakeConfirmation()
     layout->addLayout(text, 1);
     layout->addLayout(answers);
 
-    // Nothing on the panel moves when the confirmation comes and goes.
-    auto policy = Frame4->sizePolicy();
-    policy.setRetainSizeWhenHidden(true);
-    Frame4->setSizePolicy(policy);
+    ui::KeepPlaceWhenHidden(*Frame4);
     Frame4->hide();
     return Frame4;
 }

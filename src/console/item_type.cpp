@@ -3,12 +3,14 @@
 #include <array>
 #include <string>
 
+#include "core/command_words.h"
+
 namespace qf::console {
 
 namespace {
 
 /// Typed behind the number as it stands, before the Enter that ends every command.
-constexpr std::string_view TypedEnter = "{enter}";
+constexpr const char* TypedEnter = "{enter}";
 
 // clang-format off
 constexpr std::array itemTypeOptions{
@@ -81,17 +83,7 @@ std::span<const ItemTypeOption> ItemTypeOptions()
 
 void SendItemType(std::string_view typetext, core::ServerGeneration generation, core::Outlet& outlet)
 {
-    std::string command;
-    if (generation.Is09()) {
-        command = "set type ";
-    } else if (generation.Is070()) {
-        command = "settype ";
-    } else {
-        return;
-    }
-    command += typetext;
-    command += TypedEnter;
-    outlet.Send(command);
+    core::SendWords({"settype ", "set type "}, std::string(typetext) + TypedEnter, generation, outlet);
 }
 
 void ShowItemTypeHelp(core::Outlet& outlet)

@@ -22,12 +22,12 @@ constexpr std::array npcSteps{
 
 constexpr NpcStep singleNpc{"", "cmdAddNPC", "(Spawn Single NPC)", "txtNPCNumber", {"addnpc ", "add npc "}, "Makes one NPC at once"};
 
-constexpr items::Words spawnAreaWords{"setmore 0 0 ", "set more 0 0 "};
+constexpr core::CommandWords spawnAreaWords{"setmore 0 0 ", "set more 0 0 "};
 
 constexpr std::array spawnTypeWords{
-    items::Words{"settype 62",  "set type 62"},
-    items::Words{"settype 69",  "set type 69"},
-    items::Words{"settype 125", "set type 125"},
+    core::CommandWords{"settype 62",  "set type 62"},
+    core::CommandWords{"settype 69",  "set type 69"},
+    core::CommandWords{"settype 125", "set type 125"},
 };
 // clang-format on
 

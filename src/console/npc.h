@@ -6,9 +6,9 @@
 #include <vector>
 
 #include "console/npc_tables.h"
+#include "core/command_words.h"
 #include "core/generation.h"
 #include "core/outlet.h"
-#include "items/words.h"
 
 namespace qf::console {
 
@@ -18,11 +18,11 @@ struct NpcStep {
     /// What stands beside the button, empty for what belongs to no step.
     std::string_view number;
 
-    std::string_view name;
-    std::string_view caption;
-    std::string_view box;
-    items::Words     words;
-    std::string_view toolTip;
+    std::string_view   name;
+    std::string_view   caption;
+    std::string_view   box;
+    core::CommandWords words;
+    std::string_view   toolTip;
 };
 
 /// The buttons of the numbered steps in their order. The fifth step is a choice and has no button here.

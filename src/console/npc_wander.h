@@ -4,19 +4,19 @@
 #include <span>
 #include <string_view>
 
+#include "core/command_words.h"
 #include "core/generation.h"
 #include "core/outlet.h"
-#include "items/words.h"
 
 namespace qf::console {
 
 /// A button that sends its words alone. `group` is the frame on which it stands, empty for none.
 struct WanderCommand {
-    std::string_view group;
-    std::string_view name;
-    std::string_view caption;
-    items::Words     words;
-    std::string_view toolTip;
+    std::string_view   group;
+    std::string_view   name;
+    std::string_view   caption;
+    core::CommandWords words;
+    std::string_view   toolTip;
 };
 
 /// The buttons that set how an NPC moves about and what it follows.

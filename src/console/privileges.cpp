@@ -2,16 +2,16 @@
 
 #include <string>
 
-#include "items/words.h"
+#include "core/command_words.h"
 
 namespace qf::console {
 
 namespace {
 
-using items::Words;
+using core::CommandWords;
 
-constexpr Words CounselorWords{"makecns", "make cns"};
-constexpr Words GMWords{"makegm", "make gm"};
+constexpr CommandWords CounselorWords{"makecns", "make cns"};
+constexpr CommandWords GMWords{"makegm", "make gm"};
 
 constexpr auto First = PrivilegeByte::First;
 constexpr auto Second = PrivilegeByte::Second;
@@ -83,12 +83,12 @@ void MakePlayer(core::ServerGeneration generation, core::Outlet& outlet)
 
 void MakeCounselor(core::ServerGeneration generation, core::Outlet& outlet)
 {
-    items::SendWords(CounselorWords, {}, generation, outlet);
+    core::SendWords(CounselorWords, {}, generation, outlet);
 }
 
 void MakeGM(core::ServerGeneration generation, core::Outlet& outlet)
 {
-    items::SendWords(GMWords, {}, generation, outlet);
+    core::SendWords(GMWords, {}, generation, outlet);
 }
 
 void SetPrivileges(const PrivilegeChecks& checks, core::ServerGeneration generation, core::Outlet& outlet)

@@ -34,7 +34,7 @@ std::span<const ShopCommand> ShopCommands()
 void SendShopCommand(const ShopCommand& command, std::string_view text, core::ServerGeneration generation,
                      core::Outlet& outlet)
 {
-    items::SendWords(command.words, command.box.empty() ? std::string_view() : text, generation, outlet);
+    core::SendWords(command.words, command.box.empty() ? std::string_view() : text, generation, outlet);
 }
 
 } // namespace qf::console

@@ -3,19 +3,19 @@
 #include <span>
 #include <string_view>
 
+#include "core/command_words.h"
 #include "core/generation.h"
 #include "core/outlet.h"
-#include "items/words.h"
 
 namespace qf::console {
 
 /// A button that sends its words, with the text of its box behind them where it has one.
 struct ShopCommand {
-    std::string_view group;
-    std::string_view name;
-    std::string_view caption;
-    std::string_view box;
-    items::Words     words;
+    std::string_view   group;
+    std::string_view   name;
+    std::string_view   caption;
+    std::string_view   box;
+    core::CommandWords words;
 };
 
 /// All buttons, group by group.

@@ -14,14 +14,6 @@ namespace {
 
 constexpr int ValueDigits = 24;
 
-/// The wizards take turns in one place, which is as large as the largest of them needs.
-void KeepPlaceWhenHidden(QWidget& widget)
-{
-    auto policy = widget.sizePolicy();
-    policy.setRetainSizeWhenHidden(true);
-    widget.setSizePolicy(policy);
-}
-
 } // namespace
 
 SpawnPage::SpawnPage(ConsoleHost& host, QWidget* parent)
@@ -67,7 +59,8 @@ QGroupBox* SpawnPage::MakeWizard(int number)
     });
     layout->setRowMinimumHeight(row++, fontMetrics().height() / 2);
     layout->addWidget(back, row, 0, Qt::AlignLeft);
-    KeepPlaceWhenHidden(*frame);
+    // The wizards take turns in one place, which is as large as the largest of them needs.
+    ui::KeepPlaceWhenHidden(*frame);
     frame->hide();
     wizards_.push_back(frame);
     return frame;

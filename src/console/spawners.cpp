@@ -6,15 +6,15 @@ namespace qf::console {
 
 namespace {
 
-constexpr items::Words NoCommand{"", ""};
-constexpr items::Words Rename{"rename ", "rename "};
-constexpr items::Words Section{"setmorex ", "set spawnsection "};
-constexpr items::Words MinTime{"setmorey ", "set mininterval "};
-constexpr items::Words MaxTime{"setmorez ", "set maxinterval "};
-constexpr items::Words Type61{"settype 61", "set type 61"};
-constexpr items::Words Type63{"settype 63", "set type 63"};
-constexpr items::Words Type64{"settype 64", "set type 64"};
-constexpr items::Words Type65{"settype 65", "set type 65"};
+constexpr core::CommandWords NoCommand{"", ""};
+constexpr core::CommandWords Rename{"rename ", "rename "};
+constexpr core::CommandWords Section{"setmorex ", "set spawnsection "};
+constexpr core::CommandWords MinTime{"setmorey ", "set mininterval "};
+constexpr core::CommandWords MaxTime{"setmorez ", "set maxinterval "};
+constexpr core::CommandWords Type61{"settype 61", "set type 61"};
+constexpr core::CommandWords Type63{"settype 63", "set type 63"};
+constexpr core::CommandWords Type64{"settype 64", "set type 64"};
+constexpr core::CommandWords Type65{"settype 65", "set type 65"};
 
 // clang-format off
 constexpr SpawnStep itemSteps[] = {
@@ -80,7 +80,7 @@ void SendSpawnStep(const SpawnStep& step, std::string_view value, core::ServerGe
                    core::Outlet& outlet)
 {
     if (!step.OpensContainers()) {
-        items::SendWords(step.words, value, generation, outlet);
+        core::SendWords(step.words, value, generation, outlet);
     }
 }
 

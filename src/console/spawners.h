@@ -3,9 +3,9 @@
 #include <span>
 #include <string_view>
 
+#include "core/command_words.h"
 #include "core/generation.h"
 #include "core/outlet.h"
-#include "items/words.h"
 
 namespace qf::console {
 
@@ -18,7 +18,7 @@ struct SpawnStep {
     std::string_view box;
 
     /// No words where the step opens the items panel on its containers.
-    items::Words words;
+    core::CommandWords words;
 
     bool OpensContainers() const { return words.in09.empty(); }
 

@@ -83,9 +83,7 @@ QLayout* TravelPage::MakeLists(QWidget* parent)
         Host().OnChoose(*list, [this, list, &group] {
             Step([list, &group](TravelState& state) { ChoosePlace(state, group, list->currentIndex()); });
         });
-        auto policy = list->sizePolicy();
-        policy.setRetainSizeWhenHidden(true);
-        list->setSizePolicy(policy);
+        ui::KeepPlaceWhenHidden(*list);
         list->hide();
         lists_.push_back(list);
         layout->addWidget(list, 1, 0);

@@ -23,6 +23,8 @@ constexpr std::array steps{
     ChainStep{"frmCoastlines", "Command8",  "> Caves",      "frmCaves",      false},
     ChainStep{"frmCaves",      "Command6",  "< Coastlines", "frmCoastlines", false},
     ChainStep{"frmCaves",      "Command8",  "> Items",      "frmItems",      false},
+    ChainStep{"frmItems",      "Command11", "< Caves",      "frmCaves",      false},
+    ChainStep{"frmItems",      "Command13", "> Special",    "frmSpecial",    false},
     ChainStep{"frmSpecial",    "Command6",  "< Items",      "frmItems",      false},
 };
 // clang-format on

@@ -1,5 +1,6 @@
 #include "construction/commands.h"
 
+#include "core/command_words.h"
 #include "core/number_rules.h"
 #include "core/runtime_error.h"
 
@@ -37,20 +38,12 @@ void SendPointAndClick(core::Outlet& outlet, std::string_view id)
 
 void SendDirectAdd(core::Outlet& outlet, core::ServerGeneration generation, std::string_view id)
 {
-    if (generation.Is070()) {
-        outlet.Send("add " + std::string(id));
-    } else if (generation.Is09()) {
-        outlet.Send("radd " + std::string(id));
-    }
+    core::SendWords({"add ", "radd "}, id, generation, outlet);
 }
 
 void SendRemove(core::Outlet& outlet, core::ServerGeneration generation)
 {
-    if (generation.Is070()) {
-        outlet.Send("remove");
-    } else if (generation.Is09()) {
-        outlet.Send("rremove");
-    }
+    core::SendWords(core::RemoveItemWords, {}, generation, outlet);
 }
 
 void RunTrapped(core::Outlet& outlet, std::string_view typeError, const std::function<void()>& run)

@@ -1,5 +1,6 @@
 #include "gamedata/explorer.h"
 
+#include "core/command_words.h"
 #include "core/number_rules.h"
 #include "core/tile_id.h"
 
@@ -34,11 +35,7 @@ void AddItem(std::string_view tag, AddModes modes, core::ServerGeneration genera
 
 void RemoveItem(core::ServerGeneration generation, core::Outlet& outlet)
 {
-    if (generation.Is070()) {
-        outlet.Send("remove");
-    } else if (generation.Is09()) {
-        outlet.Send("rremove");
-    }
+    core::SendWords(core::RemoveItemWords, {}, generation, outlet);
 }
 
 std::string ModelIdText(std::int32_t id)

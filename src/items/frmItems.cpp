@@ -44,20 +44,20 @@ constexpr std::array shownControls{
 
 /// A button whose press is one command. Some belong to one tab.
 struct CommandRow {
-    const char* name;
-    const char* caption;
-    Words       words;
-    int         tab;
-    const char* toolTip;
+    const char*        name;
+    const char*        caption;
+    core::CommandWords words;
+    int                tab;
+    const char*        toolTip;
 };
 
 constexpr int AnyTab = -1;
 
 constexpr std::array commandRows{
-    CommandRow{"cmdRemove",       "Remove Item",      RemoveItem,   AnyTab,       "Removes the picked item"},
-    CommandRow{"cmdSetContainer", "Set as Container", SetContainer, Containers,   "Makes the picked item a container"},
-    CommandRow{"cmdBasicLight",   "Set Basic Light",  BasicLight,   Lightsources, "Makes the picked item a light"},
-    CommandRow{"cmdSetDoor",      "Set As Door",      SetDoor,      Doors,        "Makes the picked item a door"},
+    CommandRow{"cmdRemove",       "Remove Item",      core::RemoveItemWords, AnyTab,       "Removes the picked item"},
+    CommandRow{"cmdSetContainer", "Set as Container", SetContainer,          Containers,   "Makes the picked item a container"},
+    CommandRow{"cmdBasicLight",   "Set Basic Light",  BasicLight,            Lightsources, "Makes the picked item a light"},
+    CommandRow{"cmdSetDoor",      "Set As Door",      SetDoor,               Doors,        "Makes the picked item a door"},
 };
 // clang-format on
 
@@ -68,14 +68,6 @@ constexpr const char* RepeatExplanation =
 std::string SignFrameName(int page)
 {
     return "fraSigns" + std::to_string(page + 1);
-}
-
-/// Nothing on the panel moves when the control comes and goes.
-void KeepPlaceWhenHidden(QWidget& control)
-{
-    auto policy = control.sizePolicy();
-    policy.setRetainSizeWhenHidden(true);
-    control.setSizePolicy(policy);
 }
 
 /// Sets the member with this index, or none for -1.
@@ -171,7 +163,7 @@ QWidget* frmItems::MakeSignsPage()
         auto* frame = ui::MakeFrame(page, SignFrameName(number), "Signs - Part " + std::to_string(number + 1));
         auto* grid = new QGridLayout(frame);
         AddOptions(*grid, frame, Signs, SignsOnPage(number).first, SignsOnPage(number).count);
-        KeepPlaceWhenHidden(*frame);
+        ui::KeepPlaceWhenHidden(*frame);
         frames->addWidget(frame, 0, 0);
     }
     auto* layout = new QVBoxLayout(page);
@@ -252,7 +244,7 @@ QLayout* frmItems::MakeOpenDirectionFrames()
         auto* layout = new QHBoxLayout(frame);
         layout->addWidget(&group.Add(first, one, frame));
         layout->addWidget(&group.Add(first + 1, other, frame));
-        KeepPlaceWhenHidden(*frame);
+        ui::KeepPlaceWhenHidden(*frame);
         places->addWidget(frame, 0, 0);
     };
     add(optDirection[1], "fraDoorOpenEW", OpenNorth, "N", "S");
@@ -288,8 +280,11 @@ QLayout* frmItems::MakeBottomRow()
     row->addWidget(MakeOpener(this, "Command1", "Wipe Menu", "frmWipe", "Removes the items of a whole box"));
     row->addWidget(MakeOpener(this, "Command2", "Clothing && Hairs", "frmClothing", "Adds clothes and hair"));
     row->addStretch(1);
-    row->addWidget(MakeStep("Command11", "< Caves", "frmCaves"));
-    row->addWidget(MakeStep("Command13", "> Special", "frmSpecial"));
+    for (const auto& step : construction::ChainSteps()) {
+        if (step.from == Name() && Context().panels.Has(step.to)) {
+            row->addWidget(MakeStep(step));
+        }
+    }
     auto* leave = ui::MakeButton(this, "cmdReturn", "Exit", "Back to the main panel");
     OnClick(*leave, [this] { Context().panels.Unload(*this); });
     row->addWidget(leave);
@@ -305,14 +300,13 @@ QPushButton* frmItems::MakeOpener(QWidget* parent, std::string_view name, std::s
     return button;
 }
 
-QPushButton* frmItems::MakeStep(std::string_view name, std::string_view caption, const char* panel)
+QPushButton* frmItems::MakeStep(const construction::ChainStep& step)
 {
-    auto* button = ui::MakeButton(this, name, caption);
-    button->setEnabled(Context().panels.Has(panel));
-    OnClick(*button, [this, panel] {
-        Context().panels.Touch(panel).move(pos());
+    auto* button = ui::MakeButton(this, step.button, step.caption);
+    OnClick(*button, [this, &step] {
+        Context().panels.Touch(step.to).move(pos());
         hide();
-        Context().panels.Show(panel);
+        Context().panels.Show(step.to);
     });
     return button;
 }

@@ -10,6 +10,7 @@
 #include <memory>
 #include <vector>
 
+#include "construction/chain.h"
 #include "items/items.h"
 #include "ui/option_array.h"
 #include "ui/panel.h"
@@ -45,7 +46,7 @@ class frmItems final : public ui::Panel {
                             std::string_view toolTip);
 
     /// A button that gives a neighbour this panel's place and shows it.
-    QPushButton* MakeStep(std::string_view name, std::string_view caption, const char* panel);
+    QPushButton* MakeStep(const construction::ChainStep& step);
 
     /// Runs the handler when an option becomes the set one, and at a click on one that is set already.
     void OnOption(ui::OptionArray& group, std::function<void(ItemsState&, int index)> handler);

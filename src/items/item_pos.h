@@ -4,25 +4,25 @@
 #include <string>
 #include <string_view>
 
+#include "core/command_words.h"
 #include "core/generation.h"
 #include "core/outlet.h"
-#include "items/words.h"
 
 namespace qf::items {
 
 /// A button that sends its words with the text of its box behind them.
 struct ValueButton {
-    std::string_view name;
-    std::string_view caption;
-    std::string_view box;
-    Words            words;
+    std::string_view   name;
+    std::string_view   caption;
+    std::string_view   box;
+    core::CommandWords words;
 };
 
 /// A button that sends its words alone.
 struct PlainButton {
-    std::string_view name;
-    std::string_view caption;
-    Words            words;
+    std::string_view   name;
+    std::string_view   caption;
+    core::CommandWords words;
 };
 
 /// A button that changes the number in its box.

@@ -7,10 +7,10 @@
 #include <string>
 #include <string_view>
 
+#include "core/command_words.h"
 #include "core/generation.h"
 #include "core/outlet.h"
 #include "items/items_tables.h"
-#include "items/words.h"
 
 namespace qf::items {
 
@@ -105,9 +105,8 @@ void AddItem(const ItemsState& state, core::Outlet& outlet);
 void AddItem(const ItemsState& state, int direction, core::Outlet& outlet);
 
 // The buttons whose press is one command.
-inline constexpr Words RemoveItem{"remove", "rremove"};
-inline constexpr Words BasicLight{"setdir 1", "set dir 1"};
-inline constexpr Words SetContainer{"settype 1", "set type 1"};
-inline constexpr Words SetDoor{"settype 12", "set type 12"};
+inline constexpr core::CommandWords BasicLight{"setdir 1", "set dir 1"};
+inline constexpr core::CommandWords SetContainer{"settype 1", "set type 1"};
+inline constexpr core::CommandWords SetDoor{"settype 12", "set type 12"};
 
 } // namespace qf::items

@@ -2,14 +2,14 @@
 
 #include <array>
 
+#include "core/command_words.h"
 #include "core/number_rules.h"
-#include "items/words.h"
 
 namespace qf::items {
 
 namespace {
 
-constexpr Words SetDirection{"setdir ", "set dir "};
+constexpr core::CommandWords SetDirection{"setdir ", "set dir "};
 
 // clang-format off
 constexpr std::array lightButtons{

@@ -156,6 +156,13 @@ double Contrast(const QColor& one, const QColor& other)
     return (lighter + 0.05) / (darker + 0.05);
 }
 
+void KeepPlaceWhenHidden(QWidget& control)
+{
+    auto policy = control.sizePolicy();
+    policy.setRetainSizeWhenHidden(true);
+    control.setSizePolicy(policy);
+}
+
 void SelectWhole(QLineEdit& box)
 {
     box.selectAll();

@@ -50,6 +50,9 @@ void RefreshBackgrounds(const QWidget& panel);
 /// The contrast of two colours as the accessibility guidelines count it, from 1 to 21; text is read well from 4.5 on.
 double Contrast(const QColor& one, const QColor& other);
 
+/// A hidden control leaves its place empty, so that nothing moves when it comes and goes.
+void KeepPlaceWhenHidden(QWidget& control);
+
 /// Selects the whole text of a box that gets the focus, also when a click brings the focus.
 void SelectWhole(QLineEdit& box);
 

@@ -122,9 +122,7 @@ QLayout* frmHouseTemplates::MakeBottomRow()
 
     lblHouseTemplate = ui::MakeLabel(this, "lblHouseTemplate", "Sending Template to Client...");
     lblHouseTemplate->setAlignment(Qt::AlignCenter);
-    auto policy = lblHouseTemplate->sizePolicy();
-    policy.setRetainSizeWhenHidden(true);
-    lblHouseTemplate->setSizePolicy(policy);
+    ui::KeepPlaceWhenHidden(*lblHouseTemplate);
     lblHouseTemplate->hide();
 
     auto* row = new QHBoxLayout;

@@ -56,7 +56,7 @@ TEST(Chain, CopiesTheAreaUpToForestsAndNotBeyond)
 {
     for (const auto& step : ChainSteps()) {
         const bool beyond = step.from == "frmLandscapes" || step.from == "frmCoastlines" || step.from == "frmCaves" ||
-                            step.from == "frmSpecial" || step.to == "frmLandscapes";
+                            step.from == "frmItems" || step.from == "frmSpecial" || step.to == "frmLandscapes";
         EXPECT_EQ(step.copiesArea, !beyond) << step.from << ' ' << step.button;
     }
 }

@@ -282,14 +282,14 @@ TEST(Items, RepeatPicksTheWordAndGreySendsNothing)
 
 TEST(Items, WordsOfTheButtons)
 {
-    const auto sent = [](const Words& words) {
+    const auto sent = [](const core::CommandWords& words) {
         test::RecordingOutlet outlet;
         for (const auto generation : {Generation070, Generation09, Neither}) {
             SendWords(words, "", generation, outlet);
         }
         return outlet.Lines();
     };
-    EXPECT_EQ(sent(RemoveItem), (Lines{"send remove", "send rremove"}));
+    EXPECT_EQ(sent(core::RemoveItemWords), (Lines{"send remove", "send rremove"}));
     EXPECT_EQ(sent(BasicLight), (Lines{"send setdir 1", "send set dir 1"}));
     EXPECT_EQ(sent(SetContainer), (Lines{"send settype 1", "send set type 1"}));
     EXPECT_EQ(sent(SetDoor), (Lines{"send settype 12", "send set type 12"}));

@@ -97,8 +97,8 @@ void WriteItemTab(std::ostream& out, int tab)
 void WriteItemPanel(std::ostream& out)
 {
     out << "## Items: `frmItems`\n\n";
-    constexpr std::array<std::pair<std::string_view, items::Words>, 4> Buttons{
-        {{"Remove Item", items::RemoveItem},
+    constexpr std::array<std::pair<std::string_view, core::CommandWords>, 4> Buttons{
+        {{"Remove Item", core::RemoveItemWords},
          {"Set as Container", items::SetContainer},
          {"Set Basic Light", items::BasicLight},
          {"Set As Door", items::SetDoor}}};
@@ -106,7 +106,7 @@ void WriteItemPanel(std::ostream& out)
     for (const auto& [caption, words] : Buttons) {
         CommandRow(out, {std::string(caption)},
                    [&words = words](core::ServerGeneration generation, core::Outlet& outlet) {
-                       items::SendWords(words, "", generation, outlet);
+                       core::SendWords(words, "", generation, outlet);
                    });
     }
     // The stool faces south alone.
@@ -136,7 +136,7 @@ void WriteItemPositioning(std::ostream& out)
     for (const auto& button : items::PlainButtons()) {
         CommandRow(out, {Code(button.name), Shown(button.caption)},
                    [&](core::ServerGeneration generation, core::Outlet& outlet) {
-                       items::SendWords(button.words, "", generation, outlet);
+                       core::SendWords(button.words, "", generation, outlet);
                    });
     }
     out << '\n';

@@ -1,10 +1,10 @@
-#include "items/words.h"
+#include "core/command_words.h"
 
 #include <string>
 
-namespace qf::items {
+namespace qf::core {
 
-void SendWords(const Words& words, std::string_view argument, core::ServerGeneration generation, core::Outlet& outlet)
+void SendWords(const CommandWords& words, std::string_view argument, ServerGeneration generation, Outlet& outlet)
 {
     std::string command;
     if (generation.Is070() || words.in070 == words.in09) {
@@ -18,4 +18,4 @@ void SendWords(const Words& words, std::string_view argument, core::ServerGenera
     outlet.Send(command);
 }
 
-} // namespace qf::items
+} // namespace qf::core
