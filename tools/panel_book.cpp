@@ -172,7 +172,8 @@ int main(int argumentCount, char** arguments)
     }
     std::map<std::string, std::string> options;
     for (int index = 1; index < argumentCount; index += 2) {
-        if (index + 1 == argumentCount || !std::string_view(arguments[index]).starts_with("--")) {
+        // One dash is for an option of Qt, such as "-platform".
+        if (index + 1 == argumentCount || !std::string_view(arguments[index]).starts_with('-')) {
             return Usage();
         }
         options[arguments[index]] = arguments[index + 1];

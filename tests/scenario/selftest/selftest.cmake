@@ -25,6 +25,9 @@ fails.qfs:21: "no process for the memory": no process was added before
 ]])
 expect(fails.qfs 1 "${failures}1 passed, 5 failed\n" "")
 
+expect("--stop;fails.qfs;passes.qfs" 1 "${failures}1 passed, 5 failed\n" "")
+expect("--stop;passes.qfs;fails.qfs" 1 "${failures}9 passed, 5 failed\n" "")
+
 set(mistakes [[
 errors.qfs:1: a step outside a scenario
 errors.qfs:4: "an unknown step": unknown step "fly"
@@ -35,7 +38,7 @@ expect(errors.qfs 1 "${mistakes}1 passed, 4 failed\n" "")
 
 expect("passes.qfs;errors.qfs" 1 "${mistakes}9 passed, 4 failed\n" "")
 expect(none.qfs 1 "none.qfs:0: the file cannot be read\n0 passed, 1 failed\n" "")
-expect("" 2 "" "usage: quernfield-scenario [--print] FILE.qfs...\n")
+expect("" 2 "" "usage: quernfield-scenario [--print | --stop] FILE.qfs...\n")
 
 set(printed [[
 # Kept.
