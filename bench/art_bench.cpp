@@ -14,6 +14,7 @@
 #include <string>
 
 #include "core/host_path.h"
+#include "figures.h"
 #include "gamedata/art.h"
 
 namespace {
@@ -28,6 +29,9 @@ constexpr int         RoundsOfMemory = 2000;
 constexpr int         RoundsOfFiles = 200;
 constexpr int         FirstStaticTile = 0x4000;
 constexpr std::size_t IndexRecordBytes = 12;
+
+constexpr double MostTimesCopy = 50;
+constexpr double MostTimesRead = 10;
 
 void Append(std::string& bytes, int number)
 {
@@ -74,9 +78,10 @@ double Microseconds(int rounds, int count, const auto& call)
     return least;
 }
 
-void Print(const char* what, double drawing, double plain)
+bool Report(const char* what, double drawing, double plain, const char* plainly, double most)
 {
-    std::printf("%-22s %10.2f %10.2f %7.2f\n", what, drawing, plain, drawing / plain);
+    std::printf("%-22s %10.2f %10.2f %7.2f %7.0f\n", what, drawing, plain, drawing / plain, most);
+    return bench::AtMost(std::string("a tile ") + what + ", times " + plainly, drawing / plain, most);
 }
 
 bool IsDrawn(const core::PixelSurface& surface)
@@ -113,7 +118,7 @@ int main(int argc, char** argv)
     std::string           copy(tile.size(), '\0');
     // Called through a pointer that is read each time, so that no copy is left out.
     void* (*volatile copyBytes)(void*, const void*, std::size_t) = std::memcpy;
-    std::printf("%-22s %10s %10s %7s\n", "tile of 44 by 60", "drawing us", "plain us", "ratio");
+    std::printf("%-22s %10s %10s %7s %7s\n", "tile of 44 by 60", "drawing us", "plain us", "ratio", "limit");
     const auto fromMemory = Microseconds(rounds, RoundsOfMemory, [&] {
         gamedata::DrawStaticTileFromFiles(0, surface, indexBytes, artBytes, true, core::White);
     });
@@ -121,8 +126,9 @@ int main(int argc, char** argv)
         std::fputs("the tile is not drawn\n", stderr);
         return EXIT_FAILURE;
     }
-    Print("from memory", fromMemory,
-          Microseconds(rounds, RoundsOfMemory, [&] { copyBytes(copy.data(), tile.data(), tile.size()); }));
+    const auto plainCopy =
+        Microseconds(rounds, RoundsOfMemory, [&] { copyBytes(copy.data(), tile.data(), tile.size()); });
+    bool within = Report("from memory", fromMemory, plainCopy, "one `memcpy`", MostTimesCopy);
 
     const auto folder = fs::temp_directory_path() / ("quernfield-bench-" + std::to_string(std::random_device{}()));
     fs::create_directories(folder);
@@ -146,6 +152,6 @@ int main(int argc, char** argv)
         std::fputs("the tile is not drawn\n", stderr);
         return EXIT_FAILURE;
     }
-    Print("from a client folder", fromFiles, plainRead);
-    return EXIT_SUCCESS;
+    within = Report("from a client folder", fromFiles, plainRead, "a plain reading", MostTimesRead) && within;
+    return within ? EXIT_SUCCESS : EXIT_FAILURE;
 }

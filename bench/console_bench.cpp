@@ -17,6 +17,7 @@
 #include "app/application.h"
 #include "client/platform/simulated/simulated_platform.h"
 #include "core/host_path.h"
+#include "figures.h"
 #include "support/memory_store.h"
 #include "support/quiet_services.h"
 #include "ui/panel.h"
@@ -130,5 +131,6 @@ int main(int argumentCount, char** arguments)
     std::printf("console       %6.2f ms\n", BestOf(opening) * 1e3);
     std::printf("plain window  %6.2f ms  (%d buttons)\n", BestOf(plain) * 1e3, controls);
     std::printf("ratio         %6.2f     (limit %.0f)\n", times, MostTimesPlain);
-    return times <= MostTimesPlain ? 0 : 1;
+    const bool within = bench::AtMost("opening of the console, times a plain window's", times, MostTimesPlain);
+    return within ? EXIT_SUCCESS : EXIT_FAILURE;
 }

@@ -14,6 +14,7 @@
 #include "app/application.h"
 #include "bench_world.h"
 #include "client/platform/simulated/simulated_platform.h"
+#include "figures.h"
 #include "support/memory_store.h"
 #include "support/quiet_services.h"
 #include "support/temp_folder.h"
@@ -24,6 +25,12 @@ namespace {
 
 using namespace qf;
 using Clock = std::chrono::steady_clock;
+
+constexpr double MostTimesQuery = 2;
+constexpr double MostBytesOfItem = 64;
+
+/// One picture of a screen that is drawn 60 times a second.
+constexpr double MostMillisecondsOfJump = 16;
 
 double MillisecondsOf(const auto& run)
 {
@@ -97,5 +104,11 @@ int main(int argc, char** argv)
     std::printf("a jump in the grid           %10.2f ms\n", jumps / Jumps);
     std::printf("memory held by the grid      %10.0f MB, %.0f MB at most while it is filled\n", held - before,
                 peak - before);
-    return grid->model()->rowCount() == items ? EXIT_SUCCESS : EXIT_FAILURE;
+    bool within =
+        bench::AtMost("item grid, click to first picture, times the bare query", first / query, MostTimesQuery);
+    within = bench::AtMost("item grid, a jump", jumps / Jumps, MostMillisecondsOfJump, " ms") && within;
+    within = bench::AtMost("item grid, memory of an item", (held - before) * 1024 * 1024 / items, MostBytesOfItem,
+                           " bytes") &&
+             within;
+    return within && grid->model()->rowCount() == items ? EXIT_SUCCESS : EXIT_FAILURE;
 }

@@ -1,10 +1,11 @@
 // Typing: commands a second through SendCommand, beside a bare loop that posts the same key events at a
 // window of the same kind without looking at anything. One row for each measure.
 //
-// typing_bench [COMMANDS] [RECEIVER]
+// typing_bench [COMMANDS] [RECEIVER] [PLACE]
 //
-// RECEIVER is the program that is typed at: the argument, else QF_RECEIVER, else qf_x11_receiver beside
-// this program. It is started anew for each measure.
+// RECEIVER is the program that is typed at: the argument unless it is empty, else QF_RECEIVER, else
+// qf_x11_receiver beside this program. It is started anew for each measure. PLACE names the display in the table
+// of the run.
 
 #include <algorithm>
 #include <chrono>
@@ -28,6 +29,7 @@
 #include "client/platform/x11/x11_keymap.h"
 #include "client/platform/x11/x11_platform.h"
 #include "client/platform/x11/x11_typist.h"
+#include "figures.h"
 
 namespace {
 
@@ -36,6 +38,10 @@ namespace fs = std::filesystem;
 using Clock = std::chrono::steady_clock;
 
 constexpr std::chrono::seconds Patience{10};
+
+/// Of the rate of a bare loop that loses nothing, and of the rate without a window.
+constexpr double LeastOfPaced = 0.5;
+constexpr double LeastOfSimulated = 20;
 
 double SecondsSince(Clock::time_point start)
 {
@@ -250,9 +256,20 @@ Measure SendSimulated(int commands)
     return measure;
 }
 
+bool AreWithin(const std::string& place, int commands, const Measure& simulated, const Measure& paced,
+               const Measure& typed)
+{
+    const auto what = [&](const char* figure) { return "typing, " + place + ", " + figure; };
+    bool       within = bench::AtLeast(what("commands that arrive"), static_cast<double>(typed.arrived), commands);
+    within =
+        bench::AtLeast(what("rate beside a bare loop in bursts"), paced.posted / typed.posted, LeastOfPaced) && within;
+    return bench::AtLeast(what("times faster without a window"), typed.posted / simulated.posted, LeastOfSimulated) &&
+           within;
+}
+
 std::string ReceiverProgram(int argc, char** argv)
 {
-    if (argc > 2) {
+    if (argc > 2 && *argv[2] != '\0') {
         return argv[2];
     }
     if (const char* program = std::getenv("QF_RECEIVER")) {
@@ -267,12 +284,13 @@ int main(int argc, char** argv)
 {
     const int commands = argc > 1 ? static_cast<int>(std::strtol(argv[1], nullptr, 10)) : 10'000;
     if (commands <= 0) {
-        std::fputs("typing_bench [COMMANDS] [RECEIVER]\n", stderr);
+        std::fputs("typing_bench [COMMANDS] [RECEIVER] [PLACE]\n", stderr);
         return EXIT_FAILURE;
     }
     try {
         std::printf("%-34s %10s %12s %9s\n", "measure", "posted/s", "delivered/s", "arrived");
-        Print("SendCommand, simulated desktop", commands, SendSimulated(commands));
+        const Measure simulated = SendSimulated(commands);
+        Print("SendCommand, simulated desktop", commands, simulated);
         if (std::getenv("DISPLAY") == nullptr) {
             std::puts("no display: the X11 measures are left out");
             return EXIT_SUCCESS;
@@ -288,9 +306,9 @@ int main(int argc, char** argv)
         Print("SendCommand, X11", commands, typed);
         std::printf("SendCommand at %.2f of the bare loop, which loses lines, and at %.2f of the one with bursts\n",
                     bare.posted / typed.posted, paced.posted / typed.posted);
+        return AreWithin(argc > 3 ? argv[3] : "X11", commands, simulated, paced, typed) ? EXIT_SUCCESS : EXIT_FAILURE;
     } catch (const std::exception& failure) {
         std::fprintf(stderr, "%s\n", failure.what());
         return EXIT_FAILURE;
     }
-    return EXIT_SUCCESS;
 }

@@ -20,6 +20,7 @@
 #include <unistd.h>
 
 #include "core/host_path.h"
+#include "figures.h"
 #include "support/temp_folder.h"
 #include "support/world_files.h"
 #include "world/database.h"
@@ -33,6 +34,8 @@ using Clock = std::chrono::steady_clock;
 
 constexpr std::uint32_t Seed = 1;
 constexpr double        LeastOfPrepared = 0.25;
+constexpr double        MostOfMemory = 0.25;
+constexpr double        MostMillisecondsOfQuery = 200;
 constexpr auto          AreaQuery =
     "SELECT DISTINCT ID, X, Y, Z FROM tblItem WHERE X >= 1000 AND X <= 1039 AND Y >= 1000 AND Y <= 1039 AND "
     "Z >= -128 AND Z <= 127 AND WorldNumber = 0 AND InstanceID = 0 ORDER BY Z, Y, X";
@@ -209,14 +212,25 @@ int main(int argc, char** argv)
             const double ratio = prepared.seconds / measure.seconds;
             std::printf("%-34s %10.0f %7.2f %8.1f\n", name, static_cast<double>(items) / measure.seconds, ratio,
                         static_cast<double>(measure.peakKilobytes) / 1024);
-            within = within && ratio >= LeastOfPrepared;
+        };
+        const auto judge = [&](const std::string& name, const Measure& measure) {
+            const double memory =
+                static_cast<double>(measure.peakKilobytes) / static_cast<double>(prepared.peakKilobytes);
+            print(name.c_str(), measure);
+            within = bench::AtLeast(name + ", rate beside prepared inserts", prepared.seconds / measure.seconds,
+                                    LeastOfPrepared) &&
+                     within;
+            within = bench::AtMost(name + ", memory beside that of all rows", memory, MostOfMemory) && within;
         };
         std::printf("%-34s %10s %7s %8s\n", "measure", "rows/s", "ratio", "peak MiB");
         print("prepared inserts, one transaction", prepared);
-        print("load of the newer layout", newer);
-        print("load of the older layout", older);
+        judge("load of the newer layout", newer);
+        judge("load of the older layout", older);
         std::printf("an area query of 40 by 40 tiles over %zu rows takes %.1f ms\n", items, query.seconds * 1000);
-        std::printf("a load runs at %.2f of prepared inserts at least: %s\n", LeastOfPrepared, within ? "yes" : "no");
+        within =
+            bench::AtMost("area query over all rows", query.seconds * 1000, MostMillisecondsOfQuery, " ms") && within;
+        std::printf("a load runs at %.2f of prepared inserts at least, in %.2f of their memory at most: %s\n",
+                    LeastOfPrepared, MostOfMemory, within ? "yes" : "no");
         return within ? EXIT_SUCCESS : EXIT_FAILURE;
     } catch (const std::exception& failure) {
         std::fprintf(stderr, "%s\n", failure.what());
