@@ -91,7 +91,7 @@ void DrawHandle(QPainter& painter, const Grid& grid, double x, double top, doubl
 
 QPixmap QuernPicture(int size)
 {
-    const Grid grid(size);
+    const Grid   grid(size);
     // As many pixels as the screen has for it.
     const double ratio = qGuiApp->devicePixelRatio();
     QPixmap      picture(qRound(size * ratio), qRound(size * ratio));
