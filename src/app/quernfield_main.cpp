@@ -1,4 +1,5 @@
 #include <QApplication>
+#include <QDir>
 
 #include "app/application.h"
 #include "app/program_folder.h"
@@ -8,7 +9,6 @@
 #include "core/host_path.h"
 #include "core/product.h"
 #include "ui/desktop_colours.h"
-#include "ui/parts.h"
 
 #ifdef _WIN32
 #include "client/platform/win32/win32_platform.h"
@@ -30,7 +30,7 @@ std::unique_ptr<qf::client::ClientPlatform> OpenPlatform()
 
 qf::app::ProgramPlace FindPlace()
 {
-    std::filesystem::path folder(qf::ui::Utf8(QApplication::applicationDirPath()));
+    auto folder = QDir(QApplication::applicationDirPath()).filesystemPath();
 #ifdef _WIN32
     return {std::move(folder), {}};
 #else
