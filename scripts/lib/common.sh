@@ -1,7 +1,8 @@
 # Shared by the scripts of this folder. Source it with the project's root as the working directory.
 
 # Packages by purpose, as Debian 12 names them.
-packages_build=(g++ cmake ninja-build ccache pkg-config qt6-base-dev libsdl2-dev libsqlite3-dev libxcb1-dev libxcb-xkb-dev)
+packages_build=(g++ cmake ninja-build ccache pkg-config qt6-base-dev libsdl2-dev libsqlite3-dev libxcb1-dev libxcb-xkb-dev
+    libfontconfig-dev)
 packages_show=(xvfb xauth openbox xdotool imagemagick fonts-dejavu-core)
 packages_test=(libgtest-dev libgmock-dev googletest x11-xkb-utils x11-xserver-utils)
 packages_fuzz=(clang libclang-rt-14-dev)

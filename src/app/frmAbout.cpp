@@ -90,7 +90,7 @@ void frmAbout::Layout()
     left->addWidget(Label5);
 
     auto* right = new QVBoxLayout;
-    auto* title = ui::MakeTitle(this, "lblTitle", core::ThisProduct.title);
+    auto* title = ui::MakeLargeLabel(this, "lblTitle", core::ThisProduct.title);
     title->setAlignment(Qt::AlignLeft);
     right->addWidget(title);
     right->addWidget(ui::MakeLabel(this, "lblVersion", "Version " + core::VersionText()));

@@ -7,7 +7,6 @@
 #include <string>
 #include <vector>
 
-#include "app/quern_picture.h"
 #include "core/number_rules.h"
 #include "ui/parts.h"
 #include "ui/path_box.h"
@@ -28,6 +27,22 @@ constexpr auto FirstSteps =
     "two corners of a box and press <i>Add</i>. The commands are typed into the client.</p>"
     "<p><b>3.</b> The buttons <i>&gt;</i> and <i>&lt;</i> lead along the chain of construction tools and take the "
     "marked box with them. <i>Exit</i> leads back here.</p>";
+
+/// The page of first steps. A text with markup is the dearest thing on the panel to lay out, so it is filled in for the
+/// one who turns to it.
+class FirstStepsText final : public QLabel {
+  public:
+    using QLabel::QLabel;
+
+  protected:
+    void showEvent(QShowEvent* event) override
+    {
+        if (text().isEmpty()) {
+            setText(QString::fromUtf8(FirstSteps));
+        }
+        QLabel::showEvent(event);
+    }
+};
 
 QPushButton* MakeLargeButton(QWidget* parent, std::string_view name, std::string_view caption, std::string_view hint)
 {
@@ -70,7 +85,6 @@ const frmMain::Tool frmMain::programTools[] = {
 frmMain::frmMain(ui::AppContext& context) : Panel(context, "frmMain")
 {
     setWindowTitle(ui::Text(Caption));
-    setWindowIcon(QuernPicture(64));
     Layout();
 }
 
@@ -146,7 +160,7 @@ QWidget* frmMain::MakeFirstSteps()
 {
     auto* page = new QWidget(SSTab1);
     auto* layout = new QVBoxLayout(page);
-    auto* text = new QLabel(QString::fromUtf8(FirstSteps), page);
+    auto* text = new FirstStepsText(page);
     text->setWordWrap(true);
     text->setAlignment(Qt::AlignTop | Qt::AlignLeft);
     layout->addWidget(text);

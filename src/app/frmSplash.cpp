@@ -24,7 +24,7 @@ frmSplash::frmSplash(ui::AppContext& context) : Panel(context, "frmSplash")
     setWindowTitle(ui::Text(core::ThisProduct.title));
 
     auto* picture = ui::MakeLabel(this, "", "");
-    picture->setPixmap(QuernPicture(72));
+    picture->setPixmap(QuernPicture(64));
     picture->setAlignment(Qt::AlignCenter);
     picture->setMinimumWidth(fontMetrics().averageCharWidth() * Columns);
 
@@ -32,7 +32,7 @@ frmSplash::frmSplash(ui::AppContext& context) : Panel(context, "frmSplash")
     layout->setContentsMargins(36, 28, 36, 28);
     layout->setSpacing(10);
     layout->addWidget(picture);
-    layout->addWidget(ui::MakeTitle(this, "lblProductName", ""));
+    layout->addWidget(ui::MakeLargeLabel(this, "lblProductName", ""));
     for (const auto* name : {"lblVersion", "lblPlatform", "lblCompanyProduct"}) {
         auto* label = ui::MakeLabel(this, name, "");
         label->setAlignment(Qt::AlignCenter);

@@ -3,6 +3,7 @@
 #include <QGuiApplication>
 #include <QLinearGradient>
 #include <QPainter>
+#include <QPixmapCache>
 #include <algorithm>
 #include <cmath>
 
@@ -87,14 +88,11 @@ void DrawHandle(QPainter& painter, const Grid& grid, double x, double top, doubl
     painter.drawLine(QPointF(x - 0.008, bottom - 0.02), QPointF(x - 0.008, top + 0.01));
 }
 
-} // namespace
-
-QPixmap QuernPicture(int size)
+/// The emblem in as many pixels as the screen has for it.
+QPixmap DrawPicture(int size, double ratio)
 {
-    const Grid   grid(size);
-    // As many pixels as the screen has for it.
-    const double ratio = qGuiApp->devicePixelRatio();
-    QPixmap      picture(qRound(size * ratio), qRound(size * ratio));
+    const Grid grid(size);
+    QPixmap    picture(qRound(size * ratio), qRound(size * ratio));
     picture.setDevicePixelRatio(ratio);
     picture.fill(Qt::transparent);
     QPainter painter(&picture);
@@ -112,6 +110,20 @@ QPixmap QuernPicture(int size)
     const double left = grid.Edge(0.40);
     painter.drawEllipse(QRectF(QPointF(left, grid.Edge(0.36)), QPointF(1 - left, grid.Edge(0.46))));
     DrawHandle(painter, grid, 0.73, 0.08, 0.42);
+    return picture;
+}
+
+} // namespace
+
+QPixmap QuernPicture(int size)
+{
+    const double ratio = qGuiApp->devicePixelRatio();
+    const auto   key = QStringLiteral("quern %1 %2").arg(size).arg(ratio);
+    QPixmap      picture;
+    if (!QPixmapCache::find(key, &picture)) {
+        picture = DrawPicture(size, ratio);
+        QPixmapCache::insert(key, picture);
+    }
     return picture;
 }
 

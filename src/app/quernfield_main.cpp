@@ -2,6 +2,7 @@
 #include <QDir>
 
 #include "app/application.h"
+#include "app/font_start.h"
 #include "app/program_folder.h"
 #include "app/qt_environment.h"
 #include "app/quern_picture.h"
@@ -50,6 +51,7 @@ int main(int argumentCount, char** arguments)
         qputenv("QT_QPA_PLATFORM", "xcb");
     }
 #endif
+    const app::FontStart fonts;
     ui::AskForDesktopColours();
     QApplication application(argumentCount, arguments);
     ui::FollowDesktopColours(application);

@@ -114,15 +114,23 @@ QGroupBox* MakeFrame(QWidget* parent, std::string_view name, std::string_view ca
     return Named(new QGroupBox(Text(caption), parent), name);
 }
 
-QLabel* MakeTitle(QWidget* parent, std::string_view name, std::string_view caption)
+QLabel* MakeLargeLabel(QWidget* parent, std::string_view name, std::string_view caption)
 {
     auto* title = MakeLabel(parent, name, caption);
     QFont font = title->font();
-    font.setFamilies({QStringLiteral("MS Sans Serif"), QApplication::font().family()});
     font.setPointSizeF(font.pointSizeF() * 1.6);
     font.setBold(true);
     title->setFont(font);
     title->setAlignment(Qt::AlignCenter);
+    return title;
+}
+
+QLabel* MakeTitle(QWidget* parent, std::string_view name, std::string_view caption)
+{
+    auto* title = MakeLargeLabel(parent, name, caption);
+    QFont font = title->font();
+    font.setFamilies({QStringLiteral("MS Sans Serif"), QApplication::font().family()});
+    title->setFont(font);
     return title;
 }
 

@@ -36,7 +36,10 @@ QLabel* MakeClickLabel(QWidget* parent, std::string_view name, std::string_view 
 /// A framed group with its caption.
 QGroupBox* MakeFrame(QWidget* parent, std::string_view name, std::string_view caption);
 
-/// The large title of a panel, centred.
+/// A large label in the font of the desktop, centred.
+QLabel* MakeLargeLabel(QWidget* parent, std::string_view name, std::string_view caption);
+
+/// The title of a panel, a large label in the font of titles.
 QLabel* MakeTitle(QWidget* parent, std::string_view name, std::string_view caption);
 
 /// The two backgrounds that tell a box in use from one that waits: the system's info background and its

@@ -1,5 +1,6 @@
 #include <QApplication>
 #include <QLabel>
+#include <QTabWidget>
 #include <QWindow>
 #include <gtest/gtest.h>
 
@@ -67,6 +68,23 @@ TEST(Startup, TheMainPanelAloneIsLeftLoadedFirst)
     EXPECT_EQ(open.front()->Name(), "frmMain");
     EXPECT_EQ(stage.application->Context().panels.Loaded("frmSplash"), nullptr);
     EXPECT_EQ(stage.application->Context().productTitle, "Dobrin's Quernfield 20250 ");
+}
+
+TEST(MainPanel, TellsTheFirstStepsToOneWhoTurnsToThem)
+{
+    test::ProgramOnStage stage;
+    ASSERT_TRUE(stage.application->Main());
+    auto& panel = stage.application->Context().panels.Touch("frmMain");
+    auto* tabs = panel.findChild<QTabWidget*>(QStringLiteral("SSTab1"));
+    auto* text = tabs->widget(1)->findChild<QLabel*>();
+    EXPECT_TRUE(text->text().isEmpty());
+
+    const auto size = panel.size();
+    tabs->setCurrentIndex(1);
+    QApplication::processEvents();
+    EXPECT_TRUE(text->text().contains(QStringLiteral("chain of construction tools")));
+    EXPECT_LE(text->heightForWidth(text->width()), text->height());
+    EXPECT_EQ(panel.size(), size);
 }
 
 TEST(ModalPanel, IsOwnedByTheMainPanelSoThatItNeverOpensBelowIt)

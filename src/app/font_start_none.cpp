@@ -1,0 +1,7 @@
+#include "app/font_start.h"
+
+namespace qf::app {
+
+FontStart::FontStart() = default;
+
+} // namespace qf::app
