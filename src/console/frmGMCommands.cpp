@@ -234,8 +234,11 @@ void frmGMCommands::StartTool(GMAct act)
 void frmGMCommands::Leave()
 {
     SaveGMPosition(LeftTwips(), TopTwips(), Context().environment.store);
-    Context().panels.Unload(*this);
-    ReturnToMainPanel();
+    auto& panels = Context().panels;
+    panels.Unload(*this);
+    if (panels.Has("frmMain")) {
+        panels.Show("frmMain");
+    }
 }
 
 void frmGMCommands::Load()

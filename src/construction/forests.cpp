@@ -3,6 +3,7 @@
 #include <cmath>
 
 #include "core/number_rules.h"
+#include "core/runtime_error.h"
 #include "core/tile_id.h"
 
 namespace qf::construction {
@@ -57,9 +58,16 @@ bool IsChosen(const ForestsState& state, core::Outlet& outlet)
     return missing == nullptr;
 }
 
+/// The entry of the list that all tabs share. Without a choice it is the one before the tab's first, which is empty;
+/// before the first tab there is none.
 TreeIds ListedTree(const ForestsState& state)
 {
-    return ForestTree(state.tab, state.item, state.tableForm);
+    constexpr int EntriesOfTab = 19;
+    const int     entry = state.tab * EntriesOfTab + state.item;
+    if (entry < 0) {
+        throw core::RuntimeError(core::error::SubscriptRange);
+    }
+    return ForestTree(entry / EntriesOfTab, entry % EntriesOfTab, state.tableForm);
 }
 
 TreeIds ChosenTree(const ForestsState& state)
@@ -78,8 +86,9 @@ void ScatterTrees(Planter& planter, const Area& area, std::int32_t count, core::
     const auto dx = core::Subtract32(area.x2, area.x1);
     const auto dy = core::Subtract32(area.y2, area.y1);
     const auto isOrigin = [](std::int32_t x, std::int32_t y) { return x == 0 && y == 0; };
-    // Where the box is the map's first tile alone no draw leads elsewhere, and no tree can be planted.
-    if (dx == 0 && dy == 0 && isOrigin(area.x1, area.y1)) {
+    // Where no draw leads away from the map's first tile, no tree can be planted.
+    const auto isStill = [](std::int32_t side) { return side == 0 || side == -1; };
+    if (isStill(dx) && isStill(dy) && isOrigin(area.x1, area.y1)) {
         return;
     }
     for (std::int32_t i = 0; i <= count; ++i) {

@@ -206,10 +206,8 @@ QWidget* ConstructionPanel::MakeOptionPage(QWidget* parent, ui::OptionArray& opt
         const int column = place / perLine * GridColumnsEach;
         layout->addWidget(&options.Add(index, caption(index), widget), place % perLine, column);
         if (!page.pieceButtons.empty()) {
-            auto* piece = ui::MakeAddButton(widget, ui::MemberName(page.pieceButtons, index), caption(index));
-            if (!page.pieceHint.empty()) {
-                piece->setToolTip(ui::Text(page.pieceHint));
-            }
+            auto* piece =
+                ui::MakeAddButton(widget, ui::MemberName(page.pieceButtons, index), caption(index), page.pieceCaption);
             OnClick(*piece, [addPiece, index] { addPiece(index); });
             layout->addWidget(piece, place % perLine, column + 1);
         }

@@ -15,6 +15,7 @@
 #include "core/generation.h"
 #include "ui/option_array.h"
 #include "ui/panel.h"
+#include "ui/parts.h"
 #include "ui/picture_surface.h"
 
 namespace qf::construction {
@@ -114,7 +115,7 @@ class ConstructionPanel : public ui::Panel {
         int              count = 0;
         int              columns = 1;
         std::string_view pieceButtons = {};
-        std::string_view pieceHint = {}; ///< the tooltip of these buttons, where it is not the usual one
+        std::string_view pieceCaption = ui::PlusCaption;
     };
 
     /// A page of options in columns, each with the button that adds one piece of it.

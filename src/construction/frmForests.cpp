@@ -180,6 +180,7 @@ void frmForests::FormChosen(int form)
     // A line leaves the boxes as they are.
     for (const auto* box : {"txtX2", "txtY2"}) {
         if (form == ForestSingle) {
+            Box(box).clear();
             CloseBox(Box(box));
         } else if (form == ForestBox) {
             OpenBox(Box(box));

@@ -21,7 +21,7 @@ frmLandscapes::frmLandscapes(ui::AppContext& context)
                           .count = static_cast<int>(LandscapeRows().size()),
                           .columns = 1,
                           .pieceButtons = "cmdType",
-                          .pieceHint = "Add single item"};
+                          .pieceCaption = "Add single item"};
     auto*            types = MakeOptionGroup(
                    "fraType", "Landscape Type", optType, page,
                    [](int index) { return LandscapeRows()[static_cast<std::size_t>(index)].caption; },

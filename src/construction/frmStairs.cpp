@@ -90,7 +90,7 @@ QGroupBox* frmStairs::MakeMaterialFrame()
                           .count = static_cast<int>(StairRows().size()),
                           .columns = 1,
                           .pieceButtons = "cmdStairType",
-                          .pieceHint = "Add single item"};
+                          .pieceCaption = "Add single item"};
     return MakeOptionGroup(
         "fraMaterial", "Material", optMaterial, page,
         [](int index) { return StairRows()[static_cast<std::size_t>(index)].caption; },

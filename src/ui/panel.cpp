@@ -116,7 +116,7 @@ void Panel::ApplyStayOnTopRule()
 
 void Panel::ReturnToMainPanel()
 {
-    if (context_.panels.Has("frmMain")) {
+    if (context_.panels.Has("frmMain") && !context_.panels.Touch("frmMain").isMinimized()) {
         context_.panels.Show("frmMain");
     }
 }

@@ -67,7 +67,7 @@ class Panel : public QWidget {
     /// Puts the panel on top where "Stay On Top" is ticked.
     void ApplyStayOnTopRule();
 
-    /// Hides or unloads this panel and shows the main panel.
+    /// Shows the main panel. One that is minimised stays so: the console, which minimises it, restores it itself.
     void ReturnToMainPanel();
 
     void OnClick(QWidget& control, std::function<void()> handler);

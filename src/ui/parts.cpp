@@ -2,6 +2,7 @@
 
 #include <QApplication>
 #include <QPalette>
+#include <QStyleOptionToolButton>
 #include <algorithm>
 #include <cmath>
 
@@ -45,6 +46,30 @@ class Button final : public QPushButton {
     QSize minimumSizeHint() const override { return sizeHint(); }
 };
 
+/// A small button that shows a plus sign, whatever its caption is.
+class AddButton final : public QToolButton {
+  public:
+    explicit AddButton(QWidget* parent) : QToolButton(parent) { setToolButtonStyle(Qt::ToolButtonIconOnly); }
+
+    QSize sizeHint() const override
+    {
+        QStyleOptionToolButton option;
+        initStyleOption(&option);
+        const int  blanks = 2 * fontMetrics().horizontalAdvance(QLatin1Char(' '));
+        const auto text = fontMetrics().size(Qt::TextShowMnemonic, option.text) + QSize(blanks, 0);
+        return style()->sizeFromContents(QStyle::CT_ToolButton, &option, text, this);
+    }
+    QSize minimumSizeHint() const override { return sizeHint(); }
+
+  protected:
+    void initStyleOption(QStyleOptionToolButton* option) const override
+    {
+        QToolButton::initStyleOption(option);
+        option->text = QStringLiteral("+");
+        option->toolButtonStyle = Qt::ToolButtonTextOnly;
+    }
+};
+
 } // namespace
 
 QString Text(std::string_view utf8)
@@ -66,14 +91,15 @@ QPushButton* MakeButton(QWidget* parent, std::string_view name, std::string_view
     return button;
 }
 
-QToolButton* MakeAddButton(QWidget* parent, const QString& name, std::string_view what)
+QToolButton* MakeAddButton(QWidget* parent, const QString& name, std::string_view what, std::string_view caption)
 {
-    auto* button = new QToolButton(parent);
+    auto* button = new AddButton(parent);
     button->setObjectName(name);
-    button->setText(QStringLiteral("+"));
+    button->setText(Text(caption));
     button->setFocusPolicy(Qt::TabFocus);
-    button->setToolTip(QStringLiteral("Add one piece: ") + Text(what));
-    button->setAccessibleName(button->toolTip());
+    button->setToolTip(caption == PlusCaption ? QStringLiteral("Add one piece: ") + Text(what) : Text(caption));
+    button->setAccessibleName(Text(caption == PlusCaption ? "Add one piece" : caption) + QStringLiteral(": ") +
+                              Text(what));
     return button;
 }
 

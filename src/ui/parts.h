@@ -18,8 +18,13 @@ std::string Utf8(const QString& text);
 QPushButton* MakeButton(QWidget* parent, std::string_view name, std::string_view caption,
                         std::string_view toolTip = {});
 
-/// A small button that stands beside an option and adds one piece of it.
-QToolButton* MakeAddButton(QWidget* parent, const QString& name, std::string_view what);
+/// The caption of a button that adds one piece, where it has no other.
+constexpr std::string_view PlusCaption = "+";
+
+/// A small button that stands beside an option and adds one piece of it. It shows a plus sign and has its caption as
+/// tool tip.
+QToolButton* MakeAddButton(QWidget* parent, const QString& name, std::string_view what,
+                           std::string_view caption = PlusCaption);
 
 /// A text box wide enough for this many digits.
 QLineEdit* MakeTextBox(QWidget* parent, std::string_view name, int digits);

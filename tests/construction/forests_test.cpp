@@ -123,8 +123,10 @@ TEST(Forests, OnlyTheFirstTileOfTheMapCountsAsTaken)
     EXPECT_EQ(Add(state, {0.3, 0.3, 0.3, 0.3, 0.0, 0.3, 0.1, 0.2, 0.3, 0.3}).lines,
               (Lines{"send tile 0x0d40 1 1 1 1 0", "send tile 0x0d40 1 1 1 1 0", "send tile 0x0d40 0 0 1 1 0",
                      "send tile 0x0d40 1 1 1 1 0"}));
-    state.area = {"0", "0", "0", "0", "0"};
-    EXPECT_EQ(Add(state).lines, Lines{});
+    for (const auto* side : {"0", "-1"}) {
+        state.area = {"0", "0", side, "0", "0"};
+        EXPECT_EQ(Add(state).lines, Lines{});
+    }
 }
 
 TEST(Forests, ASolidBoxIsTheListsEntryWhateverTheSource)

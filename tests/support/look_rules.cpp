@@ -22,6 +22,7 @@
 #include <QStyleOptionComboBox>
 #include <QTabBar>
 #include <QTabWidget>
+#include <QToolButton>
 #include <algorithm>
 #include <cmath>
 #include <set>
@@ -117,7 +118,9 @@ Faults ButtonFaults(const QAbstractButton& button)
     } else {
         room -= 2 * button.style()->pixelMetric(QStyle::PM_DefaultFrameWidth, nullptr, &button);
     }
-    if (!button.text().isEmpty() && TextWidth(button, button.text()) > room) {
+    const auto* tool = As<QToolButton>(button);
+    const bool  showsText = tool == nullptr || tool->toolButtonStyle() != Qt::ToolButtonIconOnly;
+    if (showsText && !button.text().isEmpty() && TextWidth(button, button.text()) > room) {
         faults.push_back(Told(button) + " cuts off \"" + ui::Utf8(button.text()) + '"');
     }
     if (!button.text().isEmpty() && button.height() < button.fontMetrics().height()) {
