@@ -10,6 +10,7 @@
 
 #include "core/installed_folders.h"
 #include "practice/hud.h"
+#include "practice/window_icon.h"
 
 namespace qf::practice {
 
@@ -87,6 +88,7 @@ PracticeClient::PracticeClient(const Options& options)
         SDL_Quit();
         throw std::runtime_error("the window cannot be opened: " + why);
     }
+    SetIcon(*window_);
     SDL_SetEventFilter(&PracticeClient::FilterEvent, this);
     SDL_StartTextInput();
     ShowPosition();

@@ -127,4 +127,13 @@ QPixmap QuernPicture(int size)
     return picture;
 }
 
+QIcon QuernIcon()
+{
+    QIcon icon;
+    for (const int size : {16, 24, 32, 48, 64}) {
+        icon.addPixmap(QuernPicture(size));
+    }
+    return icon;
+}
+
 } // namespace qf::app

@@ -9,13 +9,14 @@
 #include <tuple>
 
 #include "app/program_on_stage.h"
+#include "app/setup/setup_dialog.h"
 #include "support/look_rules.h"
 #include "support/themes.h"
 #include "ui/panel.h"
 #include "ui/parts.h"
 
-// How every panel of the program looks and how it is worked by the keyboard, in either dialect, on a light and on a
-// dark desktop. The program is run for text of the usual size and of twice that size.
+// How every panel of the program and the setup dialog before it look and how they are worked by the keyboard, in either
+// dialect, on a light and on a dark desktop. The program is run for text of the usual size and of twice that size.
 
 namespace qf::app {
 namespace {
@@ -36,32 +37,44 @@ class EveryLook : public testing::TestWithParam<std::tuple<int, test::Theme>> {
 
     void SetUp() override { ASSERT_TRUE(started_); }
 
-    /// Looks at every panel as it opens, at each page of its tabs and at each frame that is hidden at first.
+    /// Looks at every panel and at the setup dialog as they open, at each page of their tabs and at each frame that is
+    /// hidden at first.
     template <typename Check>
     void ForEachView(Check check)
     {
         for (const auto& entry : AllPanels()) {
             SCOPED_TRACE(std::string(entry.name));
             auto& panel = stage_.application->Context().panels.Show(entry.name);
-            QApplication::processEvents();
-            Expect(check(panel));
-            for (auto* tabs : panel.findChildren<QTabWidget*>()) {
-                for (int page = 1; page < tabs->count(); ++page) {
-                    SCOPED_TRACE(ui::Utf8(tabs->tabText(page)));
-                    tabs->setCurrentIndex(page);
-                    QApplication::processEvents();
-                    Expect(check(panel));
-                }
-            }
-            for (auto* frame : panel.findChildren<QGroupBox*>()) {
-                if (frame->isHidden()) {
-                    SCOPED_TRACE(ui::Utf8(frame->objectName()));
-                    Reveal(*frame);
-                    Expect(check(panel));
-                    frame->hide();
-                }
-            }
+            LookAt(panel, check);
             panel.hide();
+        }
+        SCOPED_TRACE("the setup dialog");
+        SetupDialog setup(stage_.store);
+        setup.show();
+        LookAt(setup, check);
+    }
+
+    /// Looks at a window that was just shown.
+    template <typename Check>
+    static void LookAt(QWidget& window, Check check)
+    {
+        QApplication::processEvents();
+        Expect(check(window));
+        for (auto* tabs : window.findChildren<QTabWidget*>()) {
+            for (int page = 1; page < tabs->count(); ++page) {
+                SCOPED_TRACE(ui::Utf8(tabs->tabText(page)));
+                tabs->setCurrentIndex(page);
+                QApplication::processEvents();
+                Expect(check(window));
+            }
+        }
+        for (auto* frame : window.findChildren<QGroupBox*>()) {
+            if (frame->isHidden()) {
+                SCOPED_TRACE(ui::Utf8(frame->objectName()));
+                Reveal(*frame);
+                Expect(check(window));
+                frame->hide();
+            }
         }
     }
 
@@ -112,14 +125,15 @@ TEST_P(EveryLook, CutsNoTextOff)
 
 TEST_P(EveryLook, IsWorkedByTheKeyboardInReadingOrder)
 {
-    ForEachView([](ui::Panel& panel) {
+    ForEachView([](QWidget& window) {
+        const auto*           panel = dynamic_cast<const ui::Panel*>(&window);
         std::vector<QWidget*> clickable;
-        for (auto* label : panel.findChildren<QLabel*>()) {
-            if (panel.HandlesClick(*label)) {
+        for (auto* label : window.findChildren<QLabel*>()) {
+            if (panel != nullptr && panel->HandlesClick(*label)) {
                 clickable.push_back(label);
             }
         }
-        return test::KeyboardFaults(panel, clickable);
+        return test::KeyboardFaults(window, clickable);
     });
 }
 
@@ -139,11 +153,11 @@ TEST_P(EveryLook, FitsSmallScreens)
         GTEST_SKIP() << "Small screens have text of the usual size.";
     }
     for (const auto room : smallScreens) {
-        ForEachView([room](const ui::Panel& panel) { return test::SizeFaults(panel, room); });
+        ForEachView([room](const QWidget& window) { return test::SizeFaults(window, room); });
     }
 }
 
-INSTANTIATE_TEST_SUITE_P(OfThePanels, EveryLook,
+INSTANTIATE_TEST_SUITE_P(OfTheWindows, EveryLook,
                          testing::Combine(testing::Values(0, 1),
                                           testing::Values(test::Theme::Light, test::Theme::Dark)),
                          [](const auto& info) {

@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "support/memory_store.h"
+#include "support/temp_folder.h"
 
 namespace qf::app {
 namespace {
@@ -57,6 +58,21 @@ TEST(SetupChoice, NeededUntilThereIsAGenerationThatTheProgramReads)
     }
 }
 
+TEST(SetupChoice, AFolderWithoutTileArtIsKnown)
+{
+    const test::TempFolder folder;
+    const auto             text = folder.Path().u8string();
+    const SetupChoice      choice{1, {text.begin(), text.end()}};
+    EXPECT_TRUE(LacksTileArt(choice));
+    folder.Write("art.mul", "");
+    EXPECT_TRUE(LacksTileArt(choice));
+    folder.Write("artidx.mul", "");
+    EXPECT_FALSE(LacksTileArt(choice));
+    EXPECT_FALSE(LacksTileArt({1, choice.clientFolder + "/"}));
+    EXPECT_TRUE(LacksTileArt({1, choice.clientFolder + "/no such folder"}));
+    EXPECT_FALSE(LacksTileArt({1, ""}));
+}
+
 TEST(SetupChoice, InitialChoiceIsWhatIsStored)
 {
     test::MemoryStore store;
@@ -90,6 +106,14 @@ TEST(SetupChoice, ThePracticeArtIsOfferedWhereNoFolderIsStored)
         store.Write("Configuration", "UOPath", stored);
         EXPECT_EQ(TextsOf(InitialChoice(store, "/art")).uoPath, std::string_view(stored).empty() ? "\\" : stored);
     }
+}
+
+TEST(SetupChoice, TileArtIsFoundWhateverItsLetters)
+{
+    const test::TempFolder folder;
+    folder.Write("Art.mul", "");
+    folder.Write("ARTIDX.MUL", "");
+    EXPECT_FALSE(LacksTileArt({1, folder.Path().string()}));
 }
 
 TEST(SetupChoice, TheFolderIsShownInTheSystemsForm)

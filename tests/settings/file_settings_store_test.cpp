@@ -7,6 +7,7 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
+#include "app/settings/store_factory.h"
 #include "nasty_texts.h"
 #include "support/expect_error.h"
 #include "support/file_size_limit.h"
@@ -248,6 +249,7 @@ TEST(FileSettingsStoreDefaultFile, FollowsTheEnvironment)
     {
         const Environment config("XDG_CONFIG_HOME", "/etc/mine");
         EXPECT_EQ(FileSettingsStore::DefaultFile(), "/etc/mine/quernfield/settings.ini");
+        EXPECT_EQ(SettingsPlace(), "/etc/mine/quernfield/settings.ini");
     }
     for (const char* unusable : {static_cast<const char*>(nullptr), "", "relative"}) {
         const Environment config("XDG_CONFIG_HOME", unusable);

@@ -11,7 +11,10 @@ namespace qf::app {
 /// The settings store of Windows: text values in the current user's registry, one key for each section.
 class RegistrySettingsStore final : public core::SettingsStore {
   public:
-    explicit RegistrySettingsStore(std::wstring root = L"Software\\Quernfield\\Dobrin's Quernfield");
+    /// The program's own key, below that of the current user.
+    static constexpr std::wstring_view DefaultRoot = L"Software\\Quernfield\\Dobrin's Quernfield";
+
+    explicit RegistrySettingsStore(std::wstring root = std::wstring(DefaultRoot));
 
     /// A value that is no text counts as absent.
     std::optional<std::string> Find(std::string_view section, std::string_view key) override;

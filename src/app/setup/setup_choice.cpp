@@ -27,6 +27,12 @@ bool IsFolder(std::string_view programPath)
     return !programPath.empty() && std::filesystem::is_directory(core::HostPath(programPath), failure);
 }
 
+bool IsFile(std::string_view programPath)
+{
+    std::error_code failure;
+    return std::filesystem::is_regular_file(core::HostPath(programPath), failure);
+}
+
 /// The generation as the program reads it at its start.
 std::optional<int> StoredGeneration(core::SettingsStore& store)
 {
@@ -66,6 +72,12 @@ SetupChoice InitialChoice(core::SettingsStore& store, std::string_view practiceA
     const auto hostForm = core::HostPath(stored.value_or(std::string(UsualFolder))).u8string();
     choice.clientFolder.assign(hostForm.begin(), hostForm.end());
     return choice;
+}
+
+bool LacksTileArt(const SetupChoice& choice)
+{
+    const auto folder = TextsOf(choice).uoPath;
+    return !choice.clientFolder.empty() && !(IsFile(folder + "art.mul") && IsFile(folder + "artidx.mul"));
 }
 
 bool IsSetupNeeded(core::SettingsStore& store)

@@ -23,6 +23,12 @@ struct SetupTexts {
     friend bool operator==(const SetupTexts&, const SetupTexts&) = default;
 };
 
+/// What the dialog knows of the system. Both have the system's own form and are empty where there is none.
+struct SetupPlaces {
+    std::string practiceArt; ///< a client folder with art of our own
+    std::string settings;    ///< where the store is
+};
+
 /// The folder gets the program's form and a "\" at its end, so that an empty one becomes "\" as in the
 /// configuration panel.
 SetupTexts TextsOf(const SetupChoice& choice);
@@ -31,6 +37,9 @@ SetupTexts TextsOf(const SetupChoice& choice);
 /// a folder gives the usual one where the system has such; `practiceArt` (in the system's form, empty where there
 /// is none) stands in for a client that is not there.
 SetupChoice InitialChoice(core::SettingsStore& store, std::string_view practiceArt = {});
+
+/// Whether pictures of tiles can be drawn from the chosen folder. An empty one is chosen by who wants none.
+bool LacksTileArt(const SetupChoice& choice);
 
 /// Whether the store lacks a generation with which the program can start.
 bool IsSetupNeeded(core::SettingsStore& store);

@@ -9,6 +9,7 @@
 #include <QMessageBox>
 #include <QPushButton>
 #include <QVBoxLayout>
+#include <utility>
 
 #include "core/runtime_error.h"
 #include "ui/parts.h"
@@ -21,8 +22,8 @@ constexpr int PathCharacters = 44;
 
 } // namespace
 
-SetupDialog::SetupDialog(core::SettingsStore& store, std::string_view practiceArt)
-    : store_(store), optZarnVer_(*this, "optZarnVer")
+SetupDialog::SetupDialog(core::SettingsStore& store, SetupPlaces places)
+    : store_(store), places_(std::move(places)), optZarnVer_(*this, "optZarnVer")
 {
     setObjectName(QStringLiteral("frmSetup"));
     setWindowTitle(QStringLiteral("Quernfield Setup"));
@@ -46,7 +47,10 @@ SetupDialog::SetupDialog(core::SettingsStore& store, std::string_view practiceAr
 
     auto* save = ui::MakeButton(this, "cmdSave", "&Save");
     auto* cancel = ui::MakeButton(this, "cmdReturn", "&Cancel");
-    save->setAutoDefault(true);
+    // Enter presses the button that has the focus, and Save from anywhere else.
+    for (auto* button : {browse, save, cancel}) {
+        button->setAutoDefault(true);
+    }
     save->setDefault(true);
     auto* buttons = new QHBoxLayout;
     buttons->addStretch();
@@ -60,8 +64,10 @@ SetupDialog::SetupDialog(core::SettingsStore& store, std::string_view practiceAr
     whole->addStretch();
     whole->addLayout(buttons);
 
-    const auto choice = InitialChoice(store_, practiceArt);
+    const auto choice = InitialChoice(store_, places_.practiceArt);
     optZarnVer_.Select(choice.generation);
+    // Left to itself the focus goes to the first option, where Space would choose it.
+    optZarnVer_.At(choice.generation).setFocus();
     txtPathUO_->setText(QDir::toNativeSeparators(ui::Text(choice.clientFolder)));
 
     connect(browse, &QPushButton::clicked, this, [this] { Browse(); });
@@ -85,14 +91,33 @@ void SetupDialog::Browse()
 
 void SetupDialog::Save()
 {
+    const auto choice = Choice();
+    if (LacksTileArt(choice) && !IsMeant(choice)) {
+        txtPathUO_->setFocus();
+        txtPathUO_->selectAll();
+        return;
+    }
     try {
-        SaveChoice(store_, Choice());
+        SaveChoice(store_, choice);
     } catch (const core::RuntimeError& error) {
-        QMessageBox::critical(this, windowTitle(),
-                              QStringLiteral("The settings cannot be saved.\n\n") + ui::Text(error.Description()));
+        auto told = QStringLiteral("The settings cannot be saved.\n\n") + ui::Text(error.Description());
+        if (!places_.settings.empty()) {
+            told += QStringLiteral(":\n") + ui::Text(places_.settings);
+        }
+        QMessageBox::critical(this, windowTitle(), told);
         return;
     }
     accept();
+}
+
+/// Asks about a folder that would leave the panels without pictures.
+bool SetupDialog::IsMeant(const SetupChoice& choice)
+{
+    const auto question = QStringLiteral("No pictures of tiles can be shown, since this folder does not hold art.mul "
+                                         "and artidx.mul:\n%1\n\nSave it all the same?")
+                              .arg(ui::Text(choice.clientFolder));
+    return QMessageBox::question(this, windowTitle(), question, QMessageBox::Yes | QMessageBox::No, QMessageBox::No) ==
+           QMessageBox::Yes;
 }
 
 } // namespace qf::app

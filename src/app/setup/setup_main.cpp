@@ -5,6 +5,7 @@
 #include <QStandardPaths>
 #include <string_view>
 
+#include "app/quern_picture.h"
 #include "app/settings/store_factory.h"
 #include "app/setup/setup_dialog.h"
 #include "core/installed_folders.h"
@@ -66,7 +67,10 @@ int main(int argc, char** argv)
     qf::ui::AskForDesktopColours();
     QApplication application(argc, argv);
     qf::ui::FollowDesktopColours(application);
-    if (asks && qf::app::SetupDialog(*store, PracticeArt()).exec() != QDialog::Accepted) {
+    QApplication::setWindowIcon(qf::app::QuernIcon());
+    // A Wayland desktop takes the icon from the entry of its menu.
+    QApplication::setDesktopFileName(QStringLiteral("quernfield"));
+    if (asks && qf::app::SetupDialog(*store, {PracticeArt(), qf::app::SettingsPlace()}).exec() != QDialog::Accepted) {
         return 1;
     }
     return !options.start || StartProgram() ? 0 : 1;
