@@ -46,7 +46,7 @@ class Button final : public QPushButton {
     QSize minimumSizeHint() const override { return sizeHint(); }
 };
 
-/// A small button that shows a plus sign, whatever its caption is.
+/// A small button whose caption is a sign, or words that a plus sign stands for.
 class AddButton final : public QToolButton {
   public:
     explicit AddButton(QWidget* parent) : QToolButton(parent) { setToolButtonStyle(Qt::ToolButtonIconOnly); }
@@ -65,7 +65,7 @@ class AddButton final : public QToolButton {
     void initStyleOption(QStyleOptionToolButton* option) const override
     {
         QToolButton::initStyleOption(option);
-        option->text = QStringLiteral("+");
+        option->text = text().size() == 1 ? text() : QStringLiteral("+");
         option->toolButtonStyle = Qt::ToolButtonTextOnly;
     }
 };

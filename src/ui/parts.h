@@ -21,8 +21,8 @@ QPushButton* MakeButton(QWidget* parent, std::string_view name, std::string_view
 /// The caption of a button that adds one piece, where it has no other.
 constexpr std::string_view PlusCaption = "+";
 
-/// A small button that stands beside an option and adds one piece of it. It shows a plus sign and has its caption as
-/// tool tip.
+/// A small button that stands beside an option and adds one piece of it. It shows a caption of one sign, and a plus
+/// sign for words, which its tool tip tells.
 QToolButton* MakeAddButton(QWidget* parent, const QString& name, std::string_view what,
                            std::string_view caption = PlusCaption);
 

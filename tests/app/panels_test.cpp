@@ -80,6 +80,17 @@ TEST_F(EveryPanel, HasNoEnabledButtonWithoutEffect)
     });
 }
 
+TEST(AddButton, ShowsASignAndAPlusSignForWords)
+{
+    const auto shown = [](const char* caption) {
+        QWidget    window;
+        const auto button = QStringLiteral("cmdAdd");
+        return ui::MakeAddButton(&window, button, "Birch", caption)->grab().toImage();
+    };
+    EXPECT_EQ(shown("Add single item"), shown("+"));
+    EXPECT_NE(shown("\u2663"), shown("+"));
+}
+
 TEST_F(EveryPanel, NamesEveryButtonAndTextBox)
 {
     ForEach([](ui::Panel& panel) {
