@@ -1,5 +1,7 @@
 #include "command_list/cells.h"
 
+#include <algorithm>
+
 namespace qf::commands {
 
 std::string Cell(std::string_view text)
@@ -39,18 +41,27 @@ std::string Code(std::string_view text)
 
 void CellOutlet::Send(std::string_view command, bool usePrefix)
 {
-    Add(Code(command) + (usePrefix ? "" : " without the prefix"));
+    effects_.push_back(Code(command) + (usePrefix ? "" : " without the prefix"));
 }
 
 void CellOutlet::Show(const core::Message& message)
 {
-    Add("says \"" + Cell(message.text) + '"');
+    effects_.push_back("says \"" + Cell(message.text) + '"');
 }
 
 bool CellOutlet::Ask(const core::Message& message)
 {
-    Add("asks \"" + Cell(message.text) + '"');
+    effects_.push_back("asks \"" + Cell(message.text) + '"');
     return true;
+}
+
+std::string Joined(const std::vector<std::string>& effects)
+{
+    std::string text;
+    for (const auto& effect : effects) {
+        text += (text.empty() ? "" : ", then ") + effect;
+    }
+    return text.empty() ? "nothing" : text;
 }
 
 void Heading(std::ostream& out, std::string_view first, bool named)
@@ -71,6 +82,18 @@ void Row(std::ostream& out, const std::vector<std::string>& cells)
         out << "| " << cell << ' ';
     }
     out << "|\n";
+}
+
+void WriteSteps(std::ostream& out, const std::vector<std::string>& in09, const std::vector<std::string>& in070)
+{
+    Heading(out, "Step", false);
+    for (std::size_t step = 0; step < std::max(in09.size(), in070.size()); ++step) {
+        const auto at = [&](const std::vector<std::string>& effects) {
+            return step < effects.size() ? effects[step] : std::string();
+        };
+        Row(out, {std::to_string(step + 1), at(in09), at(in070)});
+    }
+    out << '\n';
 }
 
 } // namespace qf::commands

@@ -19,24 +19,22 @@ std::string Shown(std::string_view caption);
 
 std::string Code(std::string_view text);
 
-/// What leaves the program, as a cell.
+/// What leaves the program, each effect as a cell.
 class CellOutlet final : public core::Outlet {
   public:
     void Send(std::string_view command, bool usePrefix) override;
     void Show(const core::Message& message) override;
     bool Ask(const core::Message& message) override;
 
-    std::string Text() const { return text_.empty() ? "nothing" : text_; }
+    const std::vector<std::string>& List() const { return effects_; }
 
   private:
-    void Add(const std::string& effect) { text_ += (text_.empty() ? "" : ", then ") + effect; }
-
-    std::string text_;
+    std::vector<std::string> effects_;
 };
 
-/// What a step sends and says, run-time errors included.
+/// What a step sends and says, one by one, run-time errors included.
 template <typename Run>
-std::string Effects(const Run& run)
+std::vector<std::string> EffectList(const Run& run)
 {
     CellOutlet outlet;
     try {
@@ -44,7 +42,16 @@ std::string Effects(const Run& run)
     } catch (const core::RuntimeError& error) {
         outlet.Show({.text = error.Description(), .style = core::MessageStyle::Plain, .title = {}});
     }
-    return outlet.Text();
+    return outlet.List();
+}
+
+/// All effects in one cell.
+std::string Joined(const std::vector<std::string>& effects);
+
+template <typename Run>
+std::string Effects(const Run& run)
+{
+    return Joined(EffectList(run));
 }
 
 /// The head of a table of what is sent under either generation.
@@ -63,6 +70,18 @@ void CommandRow(std::ostream& out, std::vector<std::string> cells, const SendIn&
         cells.push_back(Effects([&](core::Outlet& outlet) { send(generation, outlet); }));
     }
     Row(out, cells);
+}
+
+/// A numbered table of what one press sends in either generation, an effect a row.
+void WriteSteps(std::ostream& out, const std::vector<std::string>& in09, const std::vector<std::string>& in070);
+
+template <typename SendIn>
+void StepTable(std::ostream& out, const SendIn& send)
+{
+    const auto in = [&](core::ServerGeneration generation) {
+        return EffectList([&](core::Outlet& outlet) { send(generation, outlet); });
+    };
+    WriteSteps(out, in(core::Generation09), in(core::Generation070));
 }
 
 } // namespace qf::commands

@@ -183,6 +183,8 @@ void WriteWipe(std::ostream& out)
 void WriteConsole(std::ostream& out)
 {
     WriteConsoleTabs(out);
+    WriteNpcPanels(out);
+    WriteConsolePanels(out);
     WriteWipe(out);
 }
 
