@@ -9,7 +9,6 @@ namespace qf::practice {
 inline constexpr int GlyphWidth = 5;
 inline constexpr int GlyphHeight = 9; ///< seven rows above the base line and two below
 inline constexpr int GlyphAdvance = 6;
-inline constexpr int LineAdvance = 11;
 
 /// Whether a point of the glyph is set. A character without a glyph of its own is an empty box.
 bool GlyphPoint(char32_t character, int column, int row);

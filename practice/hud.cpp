@@ -1,6 +1,7 @@
 #include "practice/hud.h"
 
 #include <algorithm>
+#include <string>
 
 #include "practice/font.h"
 

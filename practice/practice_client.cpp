@@ -8,6 +8,7 @@
 #include <string_view>
 #include <utility>
 
+#include "core/host_path.h"
 #include "core/installed_folders.h"
 #include "practice/hud.h"
 #include "practice/window_icon.h"
@@ -22,12 +23,6 @@ constexpr Uint64 StreamFrameTime = 50; // while lines stream in
 constexpr int    IdleWait = 10;
 constexpr int    ScrollPixels = 66;
 
-/// A path out of UTF-8, which the system may spell otherwise.
-std::filesystem::path PathOf(const std::string& text)
-{
-    return {std::u8string(text.begin(), text.end())};
-}
-
 /// The art that the options ask for; null where tiles are to be painted. Throws std::runtime_error.
 std::unique_ptr<TileArt> OpenArt(const Options& options)
 {
@@ -35,7 +30,7 @@ std::unique_ptr<TileArt> OpenArt(const Options& options)
         return nullptr;
     }
     if (!options.clientFolder.empty()) {
-        auto art = TileArt::Open(options.clientFolder);
+        auto art = TileArt::Open(core::PathOf(options.clientFolder));
         if (!art) {
             throw std::runtime_error("\"" + options.clientFolder + "\" does not hold art.mul and artidx.mul");
         }
@@ -45,8 +40,8 @@ std::unique_ptr<TileArt> OpenArt(const Options& options)
     if (!programFolder) {
         return nullptr;
     }
-    const auto art = core::PracticeArtFolder(PathOf(programFolder.get())).u8string();
-    return art.empty() ? nullptr : TileArt::Open(std::string(art.begin(), art.end()));
+    const auto art = core::PracticeArtFolder(core::PathOf(programFolder.get()));
+    return art.empty() ? nullptr : TileArt::Open(art);
 }
 
 } // namespace
@@ -57,7 +52,7 @@ PracticeClient::PracticeClient(const Options& options)
     camera_.shape = scene_.Shape();
     camera_.covered = HudHeight();
     if (!options_.logFile.empty()) {
-        log_.open(PathOf(options_.logFile), std::ios::binary | std::ios::app);
+        log_.open(core::PathOf(options_.logFile), std::ios::binary | std::ios::app);
         if (!log_) {
             throw std::runtime_error("cannot write to the log \"" + options_.logFile + "\"");
         }

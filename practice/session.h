@@ -50,7 +50,6 @@ class Session {
     const World&                 GetWorld() const { return world_; }
     const Position&              Player() const { return player_; }
     const std::deque<ChatEntry>& Entries() const { return entries_; }
-    const std::string&           Prefix() const { return prefix_; }
 
     /// The command that waits for clicks, and the first of two corners where it has been picked.
     const std::optional<Command>&  Waiting() const { return waiting_; }

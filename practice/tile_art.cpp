@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <cmath>
-#include <filesystem>
 #include <utility>
 
 #include "core/host_path.h"
@@ -59,19 +58,16 @@ Argb Average(const gamedata::TileImage& image, const Span& across, const Span& d
 
 } // namespace
 
-std::unique_ptr<TileArt> TileArt::Open(const std::string& folder)
+std::unique_ptr<TileArt> TileArt::Open(const std::filesystem::path& folder)
 {
-    const auto path = core::ProgramPath(std::filesystem::path(std::u8string(folder.begin(), folder.end())));
+    const auto path = core::ProgramPath(folder);
     const auto index = path + "\\artidx.mul";
     const auto art = path + "\\art.mul";
-
-    std::error_code error;
-    const auto      indexFile = core::HostPath(index);
-    if (!std::filesystem::is_regular_file(indexFile, error) ||
-        !std::filesystem::is_regular_file(core::HostPath(art), error)) {
+    if (!core::IsFile(index) || !core::IsFile(art)) {
         return nullptr;
     }
-    const auto size = std::filesystem::file_size(indexFile, error);
+    std::error_code error;
+    const auto      size = std::filesystem::file_size(core::HostPath(index), error);
     using gamedata::FileBytes;
     return std::make_unique<TileArt>(std::make_unique<FileBytes>(index, FileBytes::Access::ReadOnly),
                                      std::make_unique<FileBytes>(art, FileBytes::Access::ReadOnly),

@@ -1,9 +1,9 @@
 #pragma once
 
 #include <cstdint>
+#include <filesystem>
 #include <memory>
 #include <optional>
-#include <string>
 
 #include "gamedata/art.h"
 #include "gamedata/byte_source.h"
@@ -15,9 +15,9 @@ namespace qf::practice {
 /// The tiles of a client folder's `art.mul` and `artidx.mul`.
 class TileArt {
   public:
-    /// The art of a folder (UTF-8), whose files are found whatever the case of their names; null where one of
-    /// the two is not there.
-    static std::unique_ptr<TileArt> Open(const std::string& folder);
+    /// The art of a folder, whose files are found whatever the case of their names; null where one of the two is
+    /// not there.
+    static std::unique_ptr<TileArt> Open(const std::filesystem::path& folder);
 
     /// Art out of other bytes. The index ends after `indexBytes`; numbers beyond have no tile.
     TileArt(std::unique_ptr<gamedata::ByteSource> index, std::unique_ptr<gamedata::ByteSource> art,

@@ -131,11 +131,4 @@ std::size_t World::Clear()
     return removed;
 }
 
-std::optional<Tile> World::Top(int x, int y) const
-{
-    std::optional<Tile> top;
-    ForEachIn(Box{x, y, x, y}, [&](const Tile& tile) { top = tile; });
-    return top;
-}
-
 } // namespace qf::practice

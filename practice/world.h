@@ -73,9 +73,6 @@ class World {
     /// Removes everything, and gives the number of tiles that went.
     std::size_t Clear();
 
-    /// The highest tile of a cell.
-    std::optional<Tile> Top(int x, int y) const;
-
     std::size_t Count() const { return count_; }
 
     /// Calls `visit(const Tile&)` for each tile in the box, in no order that can be relied on.
@@ -104,7 +101,7 @@ class World {
 
   private:
     // A chunk is a sorted list of its tiles, each packed into one number: cell, height, tile number.
-    // Filling a box appends to it, and the tiles of a cell lie side by side with the highest last.
+    // Filling a box appends to it.
     using Chunk = std::vector<std::uint32_t>;
 
     static constexpr int ChunkSide = 8;

@@ -13,8 +13,7 @@ namespace {
 
 QString HostText(std::string_view programPath)
 {
-    const auto host = core::HostPath(programPath).u8string();
-    return QString::fromUtf8(reinterpret_cast<const char*>(host.data()), static_cast<qsizetype>(host.size()));
+    return ui::Text(core::Utf8Of(core::HostPath(programPath)));
 }
 
 } // namespace

@@ -6,6 +6,7 @@
 
 #include "app/quern_picture.h"
 #include "core/product.h"
+#include "core/twips.h"
 #include "ui/click_label.h"
 #include "ui/parts.h"
 
@@ -13,7 +14,6 @@ namespace qf::app {
 
 namespace {
 
-constexpr int TwipsPerPixel = 15;
 constexpr int TickMilliseconds = 70;
 
 constexpr auto Credits =
@@ -39,7 +39,7 @@ frmAbout::frmAbout(ui::AppContext& context) : Panel(context, "frmAbout")
 
     Timer2 = new QTimer(this);
     Timer2->setObjectName(QStringLiteral("Timer2"));
-    connect(Timer2, &QTimer::timeout, this, [this] { Guard([this] { Tick(); }); });
+    OnTick(*Timer2, [this] { Tick(); });
 }
 
 void frmAbout::Layout()
@@ -116,6 +116,7 @@ void frmAbout::Load()
 
 void frmAbout::Tick()
 {
+    using core::TwipsPerPixel;
     motion_.Advance(Picture2->width() * TwipsPerPixel, Picture2->height() * TwipsPerPixel,
                     Picture1->width() * TwipsPerPixel, Picture1->height() * TwipsPerPixel);
     Picture2->move(motion_.left / TwipsPerPixel, motion_.top / TwipsPerPixel);

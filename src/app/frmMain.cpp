@@ -9,7 +9,6 @@
 
 #include "core/number_rules.h"
 #include "ui/parts.h"
-#include "ui/path_box.h"
 #include "world/world_loader.h"
 
 namespace qf::app {
@@ -202,14 +201,13 @@ void frmMain::LoadWorldAndOpen(const Tool& tool)
 
 void frmMain::LoadWorld()
 {
-    auto& context = Context();
-    auto& options = context.panels.Touch("frmOptions");
-    auto& path = dynamic_cast<ui::PathBox&>(*options.findChild<QLineEdit*>(QStringLiteral("txtPathZarn")));
+    auto&      context = Context();
+    const auto server = context.ConfiguredPath("txtPathZarn");
     barLoad->show();
     setCursor(Qt::WaitCursor);
     // The load does not yield, so what tells of it is drawn before.
     repaint();
-    context.worldLoaded = world::LoadWorld(*context.database, Outlet(), context.generation, path.ProgramText());
+    context.worldLoaded = world::LoadWorld(*context.database, Outlet(), context.generation, server);
     unsetCursor();
     barLoad->hide();
 }

@@ -2,7 +2,7 @@
 
 #include <QCheckBox>
 #include <QLabel>
-#include <QPushButton>
+#include <QLineEdit>
 #include <functional>
 #include <string>
 #include <string_view>

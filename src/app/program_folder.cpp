@@ -14,6 +14,7 @@
 #include <unistd.h>
 #endif
 
+#include "core/host_path.h"
 #include "core/installed_folders.h"
 #include "core/runtime_error.h"
 
@@ -37,9 +38,8 @@ struct Originals {
 
 [[noreturn]] void ThrowAccessError(const fs::path& path)
 {
-    const auto name = path.u8string();
-    throw core::RuntimeError(core::error::PathFileAccess, core::DescriptionOf(core::error::PathFileAccess) + ": " +
-                                                              std::string(name.begin(), name.end()));
+    throw core::RuntimeError(core::error::PathFileAccess,
+                             core::DescriptionOf(core::error::PathFileAccess) + ": " + core::Utf8Of(path));
 }
 
 std::optional<std::string> ReadAll(const fs::path& file)

@@ -5,6 +5,7 @@
 #include <QCloseEvent>
 #include <QDir>
 #include <QFileDialog>
+#include <QFileInfo>
 #include <QKeyEvent>
 #include <QMessageBox>
 #include <QStandardPaths>
@@ -95,7 +96,7 @@ std::string DesktopFileDialogs::OpenFile(const ui::FileDialogRequest& request)
 {
     const auto chosen = QFileDialog::getOpenFileName(QApplication::activeWindow(), ui::Text(request.title), QString(),
                                                      FilterOf(request.filter));
-    return chosen.isEmpty() ? request.fileName : core::ProgramPath(ui::Utf8(chosen));
+    return chosen.isEmpty() ? request.fileName : core::ProgramPath(QFileInfo(chosen).filesystemFilePath());
 }
 
 void DesktopClipboard::SetText(std::string_view text)

@@ -8,7 +8,6 @@
 #include "app/quern_picture.h"
 #include "app/settings/store_factory.h"
 #include "core/host_path.h"
-#include "core/product.h"
 #include "ui/desktop_colours.h"
 
 #ifdef _WIN32

@@ -5,6 +5,8 @@
 #include <cstring>
 #include <vector>
 
+#include "core/little_endian.h"
+
 namespace qf::client {
 
 namespace {
@@ -12,22 +14,13 @@ namespace {
 /// How many offsets are tested at a time.
 constexpr std::size_t Stride = 256;
 
-void StoreLittleEndian(std::span<std::byte> bytes, std::int32_t number)
-{
-    auto rest = static_cast<std::uint32_t>(number);
-    for (auto& byte : bytes) {
-        byte = static_cast<std::byte>(rest & 0xFF);
-        rest >>= 8;
-    }
-}
-
 std::array<std::byte, TripleSize> TripleOf(std::int32_t x, std::int32_t y, std::int32_t z)
 {
     std::array<std::byte, TripleSize> triple{};
     const std::span<std::byte>        bytes(triple);
-    StoreLittleEndian(bytes.subspan(0, 4), z);
-    StoreLittleEndian(bytes.subspan(4, 4), y);
-    StoreLittleEndian(bytes.subspan(8, 4), x);
+    core::StoreLittle(bytes.subspan(0, 4), static_cast<std::uint32_t>(z));
+    core::StoreLittle(bytes.subspan(4, 4), static_cast<std::uint32_t>(y));
+    core::StoreLittle(bytes.subspan(8, 4), static_cast<std::uint32_t>(x));
     return triple;
 }
 

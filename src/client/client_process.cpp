@@ -1,25 +1,12 @@
 #include "client/client_process.h"
 
-#include <array>
 #include <string_view>
 
 namespace qf::client {
 
-namespace {
-
-constexpr std::string_view AssistClass = "UOASSIST-TP-MSG-WND";
-
-constexpr std::array<std::string_view, 3> ClassicClasses{
-    "Ultima Online",
-    "Ultima Online Third Dawn",
-    "Ultima Online 3D",
-};
-
-} // namespace
-
 WindowHandle FindClassicClient(ClientPlatform& platform)
 {
-    for (const std::string_view className : ClassicClasses) {
+    for (const std::string_view className : window_class::Classic) {
         const WindowHandle window = platform.FindWindowByClass(className);
         if (window != 0 && platform.IsWindow(window)) {
             return window;
@@ -30,7 +17,7 @@ WindowHandle FindClassicClient(ClientPlatform& platform)
 
 std::optional<std::int32_t> AskAssist(ClientPlatform& platform)
 {
-    const WindowHandle assist = platform.FindWindowByClass(AssistClass);
+    const WindowHandle assist = platform.FindWindowByClass(window_class::Assist);
     if (assist <= 1) {
         return std::nullopt;
     }

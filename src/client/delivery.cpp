@@ -13,12 +13,9 @@ namespace qf::client {
 
 namespace {
 
-constexpr std::string_view ClientClass = "SDL_app";
 constexpr std::string_view ClientTitle = "ClassicUO";
 
 constexpr std::chrono::milliseconds ForegroundPause{50};
-
-constexpr std::uint32_t ReturnKey = 13;
 
 // Repeat count 1, scan code 0x1C; on the way up also the previous state and the transition bit.
 constexpr std::uint32_t ReturnDown = 0x001C0001;
@@ -32,8 +29,8 @@ void TypeLine(ClientPlatform& platform, WindowHandle client, std::string_view an
     for (const char character : ansi) {
         platform.Post(client, message::Char, static_cast<unsigned char>(character), 0);
     }
-    platform.Post(client, message::KeyDown, ReturnKey, ReturnDown);
-    platform.Post(client, message::KeyUp, ReturnKey, ReturnUp);
+    platform.Post(client, message::KeyDown, message::ReturnKey, ReturnDown);
+    platform.Post(client, message::KeyUp, message::ReturnKey, ReturnUp);
 }
 
 } // namespace
@@ -43,7 +40,7 @@ WindowHandle FindClientWindow(ClientPlatform& platform)
     WindowHandle found = 0;
     platform.EnumerateWindows([&found](const WindowInfo& window) {
         const std::string_view className = window.className;
-        if (className.substr(0, className.find('\0')) != ClientClass) {
+        if (className.substr(0, className.find('\0')) != window_class::Sdl) {
             return true;
         }
         if (!core::ContainsIgnoringCase(window.title, ClientTitle)) {

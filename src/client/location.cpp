@@ -2,23 +2,14 @@
 
 #include <array>
 #include <cstddef>
-#include <span>
 
 #include "client/client_process.h"
+#include "core/little_endian.h"
 #include "core/text.h"
 
 namespace qf::client {
 
 namespace {
-
-std::int32_t LittleEndian32(std::span<const std::byte, 4> bytes)
-{
-    std::uint32_t number = 0;
-    for (std::size_t i = bytes.size(); i-- > 0;) {
-        number = number << 8 | std::to_integer<std::uint32_t>(bytes[i]);
-    }
-    return static_cast<std::int32_t>(number);
-}
 
 PlayerLocation ReadTriple(ClientPlatform& platform, std::int32_t calibration)
 {
@@ -34,9 +25,10 @@ PlayerLocation ReadTriple(ClientPlatform& platform, std::int32_t calibration)
     if (!process.Read(address, buffer)) {
         return UnknownLocation;
     }
-    const std::span<const std::byte, TripleSize> triple(buffer);
-    return {LittleEndian32(triple.subspan<0, 4>()), LittleEndian32(triple.subspan<4, 4>()),
-            LittleEndian32(triple.subspan<8, 4>())};
+    const auto number = [&buffer](std::size_t at) {
+        return static_cast<std::int32_t>(core::ReadLittle32(buffer.data() + at));
+    };
+    return {number(0), number(4), number(8)};
 }
 
 } // namespace

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <array>
 #include <chrono>
 #include <cstddef>
 #include <cstdint>
@@ -29,7 +30,26 @@ inline constexpr std::uint32_t KeyDown = 256;
 inline constexpr std::uint32_t KeyUp = 257;
 inline constexpr std::uint32_t Char = 258;
 inline constexpr std::uint32_t AssistPosition = 1226;
+
+/// What Enter gives as the key of KeyDown and KeyUp.
+inline constexpr std::uint32_t ReturnKey = 13;
 } // namespace message
+
+/// The classes by which windows are known.
+namespace window_class {
+/// Of every program that uses SDL.
+inline constexpr std::string_view Sdl = "SDL_app";
+
+/// Of the classic clients, in the order in which they are looked for.
+inline constexpr std::array<std::string_view, 3> Classic{
+    "Ultima Online",
+    "Ultima Online Third Dawn",
+    "Ultima Online 3D",
+};
+
+/// Of the assist window.
+inline constexpr std::string_view Assist = "UOASSIST-TP-MSG-WND";
+} // namespace window_class
 
 /// The operations of a desktop that the client link stands on, and nothing more: no rule of the program
 /// lives behind it, so that everything above runs alike on Windows, on X11 and on the simulated desktop.

@@ -9,7 +9,6 @@
 #include "console/spawn_page.h"
 #include "console/travel_page.h"
 #include "ui/parts.h"
-#include "ui/path_box.h"
 
 namespace qf::console {
 
@@ -213,20 +212,15 @@ void frmGMCommands::CarryOut(const GMWindowStep& step)
     }
 }
 
-std::string frmGMCommands::ConfiguredPath(std::string_view box)
-{
-    auto& options = Context().panels.Touch("frmOptions");
-    return dynamic_cast<ui::PathBox&>(*options.findChild<QWidget*>(ui::Text(box))).ProgramText();
-}
-
 void frmGMCommands::StartTool(GMAct act)
 {
     const client::ProgramStart start = [this](std::string_view program, std::string_view folder) {
         Context().environment.shell.StartProgram(program, folder);
     };
+    auto& context = Context();
     switch (act) {
-    case GMAct::StartZarn: client::StartZarn(ConfiguredPath("txtPathZarn"), start, Outlet()); break;
-    case GMAct::StartInsideUO: client::StartInsideUO(ConfiguredPath("txtPathInsideUO"), start, Outlet()); break;
+    case GMAct::StartZarn: client::StartZarn(context.ConfiguredPath("txtPathZarn"), start, Outlet()); break;
+    case GMAct::StartInsideUO: client::StartInsideUO(context.ConfiguredPath("txtPathInsideUO"), start, Outlet()); break;
     default: client::StartUO(Outlet()); break;
     }
 }

@@ -67,7 +67,6 @@ class frmGMCommands final : public ui::Panel {
     CustomCommands TypedCustomCommands() const;
     void           Press(const GMCommand& command);
     void           CarryOut(const GMWindowStep& step);
-    std::string    ConfiguredPath(std::string_view box);
     void           StartTool(GMAct act);
     void           Leave();
 

@@ -6,7 +6,6 @@
 
 #include "console/npc_script.h"
 #include "ui/parts.h"
-#include "ui/path_box.h"
 
 namespace qf::console {
 
@@ -247,12 +246,7 @@ void frmNPC::NpcChosen()
 void frmNPC::LoadScriptList()
 {
     const NpcListLoad load{
-        .serverPath =
-            [this] {
-                auto& options = Context().panels.Touch("frmOptions");
-                auto* box = options.findChild<QLineEdit*>(QStringLiteral("txtPathZarn"));
-                return dynamic_cast<ui::PathBox&>(*box).ProgramText();
-            },
+        .serverPath = [this] { return Context().ConfiguredPath("txtPathZarn"); },
         .enterFolder = [this](std::string_view folder) { Context().environment.shell.EnterFolder(folder); },
         .showStatus =
             [this](std::string_view text) {

@@ -1,8 +1,7 @@
 #include "console/privileges.h"
 
-#include <string>
-
 #include "core/command_words.h"
+#include "core/text.h"
 
 namespace qf::console {
 
@@ -48,18 +47,6 @@ unsigned ByteOf(const PrivilegeChecks& checks, PrivilegeByte byte)
     return value;
 }
 
-/// Upper-case hexadecimal without prefix and leading zeros.
-std::string Hex(unsigned value)
-{
-    constexpr std::string_view digits = "0123456789ABCDEF";
-    std::string                text;
-    do {
-        text.insert(text.begin(), digits[value % 16]);
-        value /= 16;
-    } while (value != 0);
-    return text;
-}
-
 } // namespace
 
 std::span<const Privilege, PrivilegeCount> Privileges()
@@ -96,7 +83,7 @@ void SetPrivileges(const PrivilegeChecks& checks, core::ServerGeneration generat
     if (generation.Is09()) {
         outlet.Show(core::PlainBox("This command is only available in older versions of Zarn."));
     } else if (generation.Is070()) {
-        outlet.Send("setpriv " + Hex(ByteOf(checks, First)) + ' ' + Hex(ByteOf(checks, Second)));
+        outlet.Send("setpriv " + core::UpperHex(ByteOf(checks, First)) + ' ' + core::UpperHex(ByteOf(checks, Second)));
     }
 }
 

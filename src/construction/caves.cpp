@@ -1,7 +1,6 @@
 #include "construction/caves.h"
 
 #include <algorithm>
-#include <cmath>
 
 #include "core/number_rules.h"
 #include "core/tile_id.h"
@@ -96,18 +95,13 @@ std::span<const CaveRow> CaveRows(int tab)
     }
 }
 
-int DrawUpTo(core::UniformGenerator& uniform, int most)
-{
-    return static_cast<int>(std::floor(uniform.Next() * most + 1));
-}
-
 CaveDraws CaveDraws::Draw(core::UniformGenerator& uniform)
 {
     CaveDraws draws;
-    draws.of3 = DrawUpTo(uniform, 3);
-    draws.of5 = DrawUpTo(uniform, 5);
-    draws.of6 = DrawUpTo(uniform, 6);
-    draws.of4 = DrawUpTo(uniform, 4);
+    draws.of3 = core::DrawUpTo(uniform, 3);
+    draws.of5 = core::DrawUpTo(uniform, 5);
+    draws.of6 = core::DrawUpTo(uniform, 6);
+    draws.of4 = core::DrawUpTo(uniform, 4);
     return draws;
 }
 
@@ -136,7 +130,7 @@ std::string CaveTileId(int tab, int type, const CaveDraws& draws, core::ServerGe
 
 std::int32_t ShownCaveTile(int tab, int type)
 {
-    return core::ToInteger32("&H" + std::string(RowOf(tab, type).tiles.front()));
+    return core::TileNumberOf(RowOf(tab, type).tiles.front());
 }
 
 void AddCave(const CavesState& state, core::ServerGeneration generation, core::UniformGenerator& uniform,

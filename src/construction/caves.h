@@ -12,9 +12,6 @@
 
 namespace qf::construction {
 
-/// The ways of adding cave tiles and shore tiles, by index of their option.
-enum RandomTileMethod { RandomPointAndClick = 0, RandomCoordinates = 1, RandomSingleItem = 2 };
-
 /// The tabs of the caves panel.
 enum CaveTab { CaveFloors = 0, CaveDirt = 1, CaveWalls = 2, CaveMisc = 3 };
 
@@ -69,8 +66,5 @@ std::int32_t ShownCaveTile(int tab, int type);
 /// whatever is selected.
 void AddCave(const CavesState& state, core::ServerGeneration generation, core::UniformGenerator& uniform,
              core::Outlet& outlet);
-
-/// A whole number from 1 up to `most` out of one draw.
-int DrawUpTo(core::UniformGenerator& uniform, int most);
 
 } // namespace qf::construction

@@ -45,8 +45,8 @@ CoastDraws Draw(core::UniformGenerator& uniform)
 {
     uniform.SeedFromClock();
     CoastDraws draws;
-    draws.of2 = DrawUpTo(uniform, 2);
-    draws.of6 = DrawUpTo(uniform, 6);
+    draws.of2 = core::DrawUpTo(uniform, 2);
+    draws.of6 = core::DrawUpTo(uniform, 6);
     return draws;
 }
 
@@ -62,7 +62,7 @@ std::string_view PickWater(int type, const CoastDraws& draws)
 std::string_view PickPlant(int type, core::UniformGenerator& uniform)
 {
     const auto& row = plantRows[static_cast<std::size_t>(std::max(type, 0))];
-    const int   draw = row.draws > 1 ? DrawUpTo(uniform, row.draws) : 1;
+    const int   draw = row.draws > 1 ? core::DrawUpTo(uniform, row.draws) : 1;
     return row.tiles[static_cast<std::size_t>(draw - 1)];
 }
 

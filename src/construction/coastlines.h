@@ -5,7 +5,6 @@
 #include <string>
 #include <string_view>
 
-#include "construction/caves.h"
 #include "construction/commands.h"
 #include "core/generation.h"
 #include "core/outlet.h"

@@ -13,6 +13,9 @@ namespace qf::construction {
 /// What the panels of caves, coastlines and landscapes show where a box holds no number.
 inline constexpr std::string_view InvalidLocationText = "Please provide a valid location, including height!";
 
+/// The ways of adding cave tiles and shore tiles, by index of their option.
+enum RandomTileMethod { RandomPointAndClick = 0, RandomCoordinates = 1, RandomSingleItem = 2 };
+
 /// A box of map tiles as the user typed its corners: never swapped, clipped or checked for size.
 struct Area {
     std::int32_t x1;

@@ -127,7 +127,7 @@ std::optional<std::int32_t> ShownRoofTile(const RoofState& state)
     if (state.direction < 0) {
         return std::nullopt;
     }
-    return core::ToInteger32("&H" + std::string(TripleOf(state).ridge));
+    return core::TileNumberOf(TripleOf(state).ridge);
 }
 
 } // namespace qf::construction

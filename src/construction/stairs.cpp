@@ -136,8 +136,7 @@ std::optional<std::int32_t> ShownStep(const StairsState& state)
     if (state.material < 0 || state.direction < 0) {
         return std::nullopt;
     }
-    const auto digits = RowOf(state.material).steps[static_cast<std::size_t>(state.direction)];
-    return core::ToInteger32("&H" + std::string(digits));
+    return core::TileNumberOf(RowOf(state.material).steps[static_cast<std::size_t>(state.direction)]);
 }
 
 } // namespace qf::construction

@@ -1,11 +1,12 @@
 #include "core/host_path.h"
 
+#include <algorithm>
+#include <system_error>
+
 #ifdef _WIN32
 #include "core/ansi.h"
 #else
-#include <algorithm>
 #include <optional>
-#include <system_error>
 
 #include "core/text.h"
 #endif
@@ -16,32 +17,14 @@ namespace fs = std::filesystem;
 
 #ifdef _WIN32
 
-namespace {
-
-fs::path FromUtf8(std::string_view text)
-{
-    return fs::path(std::u8string(text.begin(), text.end()));
-}
-
-} // namespace
-
 fs::path HostPath(std::string_view programPath)
 {
     try {
-        return FromUtf8(programPath);
+        return PathOf(programPath);
     } catch (const std::system_error&) {
         // Not UTF-8, so these are bytes of the system's code page that came in unconverted.
-        return FromUtf8(FromAnsi(programPath));
+        return PathOf(FromAnsi(programPath));
     }
-}
-
-std::string ProgramPath(const fs::path& hostPath)
-{
-    std::string text;
-    for (const char8_t unit : hostPath.u8string()) {
-        text += unit == u8'/' ? '\\' : static_cast<char>(unit);
-    }
-    return text;
 }
 
 #else
@@ -106,17 +89,30 @@ fs::path HostPath(std::string_view programPath)
     return path;
 }
 
+#endif
+
 std::string ProgramPath(const fs::path& hostPath)
 {
-    std::string text = hostPath.string();
-    for (char& character : text) {
-        if (character == '/') {
-            character = '\\';
-        }
-    }
+    auto text = Utf8Of(hostPath);
+    std::replace(text.begin(), text.end(), '/', '\\');
     return text;
 }
 
-#endif
+std::string Utf8Of(const fs::path& hostPath)
+{
+    const auto text = hostPath.u8string();
+    return {text.begin(), text.end()};
+}
+
+fs::path PathOf(std::string_view utf8)
+{
+    return {std::u8string(utf8.begin(), utf8.end())};
+}
+
+bool IsFile(std::string_view programPath)
+{
+    std::error_code failure;
+    return fs::is_regular_file(HostPath(programPath), failure);
+}
 
 } // namespace qf::core

@@ -16,6 +16,11 @@ Message InformationBox(std::string text)
     return {std::move(text), MessageStyle::Information, ProductTitle()};
 }
 
+Message UntitledInformationBox(std::string text)
+{
+    return {std::move(text), MessageStyle::Information, std::nullopt};
+}
+
 Message CriticalBox(std::string text)
 {
     return {std::move(text), MessageStyle::Critical, ProductTitle()};

@@ -29,6 +29,9 @@ Message PlainBox(std::string text);
 /// An information box (style 64) titled with the product title.
 Message InformationBox(std::string text);
 
+/// An information box that carries the application's title.
+Message UntitledInformationBox(std::string text);
+
 /// An error box (style 16) titled with the product title.
 Message CriticalBox(std::string text);
 

@@ -9,8 +9,9 @@ std::string DescriptionOf(int number)
     case error::Overflow: return "Overflow";
     case error::SubscriptRange: return "Subscript out of range";
     case error::TypeMismatch: return "Type mismatch";
+    case error::BadFileName: return "Bad file name or number";
     case error::FileNotFound: return "File not found";
-    case error::FileAlreadyOpen: return "File already open";
+    case error::FileAlreadyExists: return "File already exists";
     case error::BadRecordNumber: return "Bad record number";
     case error::TooManyFiles: return "Too many files";
     case error::DeviceUnavailable: return "Device unavailable";

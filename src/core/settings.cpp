@@ -12,7 +12,7 @@ Settings ReadSettings(SettingsStore& store)
     const auto flag = [&text](std::string_view key) { return ToBoolean(text(key, "0")); };
 
     Settings settings;
-    settings.UOPath = text("UOPath", R"(C:\Program Files\Ultima Online)");
+    settings.UOPath = text("UOPath", UsualClientFolder);
     settings.IUOPath = text("IUOPath");
     settings.ZarnPath = text("ZarnPath");
     settings.UOGPath = text("UOGPath");

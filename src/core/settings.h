@@ -33,6 +33,9 @@ inline constexpr std::string_view Configuration = "Configuration";
 inline constexpr std::string_view Startup = "Startup";
 } // namespace section
 
+/// Where a client is usually installed, in the program's form.
+inline constexpr std::string_view UsualClientFolder = R"(C:\Program Files\Ultima Online)";
+
 /// The persistent configuration as the program uses it during a run. Paths have the program's form.
 struct Settings {
     std::string UOPath;
@@ -48,7 +51,7 @@ struct Settings {
 };
 
 /// Reads the record from the store in the documented order, with the default of each absent key.
-/// Throws RuntimeError 13 where a flag's text is no truth value.
+/// Throws RuntimeError 13 where a flag's text is no truth value, 6 where it is a number too large for one.
 Settings ReadSettings(SettingsStore& store);
 
 } // namespace qf::core

@@ -75,15 +75,20 @@ std::string FolderOf(std::string_view path)
     return std::string(path.substr(0, static_cast<std::size_t>(LastBackslash(path))));
 }
 
-std::string HueHexPair(std::int32_t number)
+std::string UpperHex(std::uint32_t number)
 {
     std::array<char, 8> buffer{};
-    const auto          written =
-        std::to_chars(buffer.data(), buffer.data() + buffer.size(), static_cast<std::uint32_t>(number), 16);
+    const auto          written = std::to_chars(buffer.data(), buffer.data() + buffer.size(), number, 16);
 
     std::string digits(buffer.data(), written.ptr);
     std::transform(digits.begin(), digits.end(), digits.begin(),
                    [](char digit) { return digit >= 'a' ? static_cast<char>(digit - 'a' + 'A') : digit; });
+    return digits;
+}
+
+std::string HueHexPair(std::int32_t number)
+{
+    auto digits = UpperHex(static_cast<std::uint32_t>(number));
     if (digits.size() < 4) {
         digits.insert(0, 4 - digits.size(), '0');
     }

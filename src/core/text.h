@@ -27,6 +27,9 @@ int LastBackslash(std::string_view path);
 /// The path up to and including its last "\"; empty where it has none.
 std::string FolderOf(std::string_view path);
 
+/// The number in upper-case hexadecimal without prefix and leading zeros: "5CE", "0".
+std::string UpperHex(std::uint32_t number);
+
 /// The number in upper-case hexadecimal as two byte-pairs of the older dialect: "00 0A", "07 FF".
 /// Four or more digits give the first two and the last two. Negative numbers are their 32-bit pattern.
 std::string HueHexPair(std::int32_t number);

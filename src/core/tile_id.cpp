@@ -3,22 +3,9 @@
 #include <charconv>
 
 #include "core/runtime_error.h"
+#include "core/text.h"
 
 namespace qf::core {
-
-namespace {
-
-std::int32_t HexNumber(std::string_view digits)
-{
-    std::uint32_t pattern = 0;
-    const auto    parsed = std::from_chars(digits.data(), digits.data() + digits.size(), pattern, 16);
-    if (parsed.ec != std::errc() || parsed.ptr != digits.data() + digits.size()) {
-        throw RuntimeError(error::TypeMismatch);
-    }
-    return static_cast<std::int32_t>(pattern);
-}
-
-} // namespace
 
 std::string TileIdText(std::string_view digits, ServerGeneration generation)
 {
@@ -40,14 +27,17 @@ std::string TileIdText(std::string_view digits, ServerGeneration generation)
 
 std::string HexNumberText(std::int32_t number)
 {
-    constexpr std::size_t MostDigits = 8;
-    char                  digits[MostDigits];
-    const auto            end = std::to_chars(digits, digits + MostDigits, static_cast<std::uint32_t>(number), 16).ptr;
-    std::string           text = "0x";
-    for (const char* digit = digits; digit != end; ++digit) {
-        text += *digit >= 'a' ? static_cast<char>(*digit - 'a' + 'A') : *digit;
+    return "0x" + UpperHex(static_cast<std::uint32_t>(number));
+}
+
+std::int32_t TileNumberOf(std::string_view digits)
+{
+    std::uint32_t pattern = 0;
+    const auto    parsed = std::from_chars(digits.data(), digits.data() + digits.size(), pattern, 16);
+    if (parsed.ec != std::errc() || parsed.ptr != digits.data() + digits.size()) {
+        throw RuntimeError(error::TypeMismatch);
     }
-    return text;
+    return static_cast<std::int32_t>(pattern);
 }
 
 std::int32_t TileNumber(std::string_view idText, ServerGeneration generation)
@@ -55,10 +45,10 @@ std::int32_t TileNumber(std::string_view idText, ServerGeneration generation)
     if (generation.Is070() && idText.size() == 5 && idText[2] == ' ') {
         std::string digits(idText.substr(0, 2));
         digits += idText.substr(3);
-        return HexNumber(digits);
+        return TileNumberOf(digits);
     }
     if (generation.Is09() && idText.starts_with("0x")) {
-        return HexNumber(idText.substr(2));
+        return TileNumberOf(idText.substr(2));
     }
     throw RuntimeError(error::TypeMismatch);
 }

@@ -13,6 +13,10 @@ namespace qf::core {
 /// is neither gives an empty text.
 std::string TileIdText(std::string_view digits, ServerGeneration generation);
 
+/// The tile number of a table's hex digits: 0x04B5 of "04b5". Throws RuntimeError 13 for what is no hex number of 32
+/// bits.
+std::int32_t TileNumberOf(std::string_view digits);
+
 /// The tile number that an ID text names in the form of the generation: what follows "0x" under 0.9x.x,
 /// the two pairs joined under 0.70.x, always positive for four digits. Throws RuntimeError 13 for a text
 /// that is no such ID.

@@ -1,8 +1,14 @@
 #include "core/uniform.h"
 
 #include <chrono>
+#include <cmath>
 
 namespace qf::core {
+
+int DrawUpTo(UniformGenerator& uniform, int most)
+{
+    return static_cast<int>(std::floor(uniform.Next() * most + 1));
+}
 
 double PseudoUniformGenerator::Next()
 {

@@ -18,6 +18,9 @@ class UniformGenerator {
     virtual void SeedFromClock() = 0;
 };
 
+/// A whole number from 1 up to `most` out of one draw.
+int DrawUpTo(UniformGenerator& uniform, int most);
+
 /// The program's own generator. Two instances with one seed give one sequence on every system.
 class PseudoUniformGenerator final : public UniformGenerator {
   public:

@@ -5,8 +5,10 @@
 #include <cmath>
 
 #include "core/host_path.h"
+#include "core/little_endian.h"
 #include "core/number_rules.h"
 #include "core/runtime_error.h"
+#include "core/twips.h"
 
 namespace qf::gamedata {
 
@@ -42,7 +44,6 @@ constexpr int          MostTileSide = 1024;
 constexpr int          EndlessRun = 0x800;
 
 constexpr int   Margin = 5;
-constexpr float TwipsPerPixel = 15;
 constexpr float MostHeightTwips = 2595;
 constexpr float MostWidthTwips = 1815;
 
@@ -62,13 +63,12 @@ enum class Outcome {
 
 std::int16_t Number16(const std::byte* bytes)
 {
-    return static_cast<std::int16_t>(static_cast<std::uint16_t>(bytes[0]) | static_cast<std::uint16_t>(bytes[1]) << 8);
+    return static_cast<std::int16_t>(core::ReadLittle16(bytes));
 }
 
 std::int32_t Number32(const std::byte* bytes)
 {
-    const auto low = static_cast<std::uint16_t>(Number16(bytes));
-    return static_cast<std::int32_t>(low | static_cast<std::uint32_t>(Number16(bytes + 2)) << 16);
+    return static_cast<std::int32_t>(core::ReadLittle32(bytes));
 }
 
 /// Reads little-endian numbers one behind the other, through a window on the source so that a usual tile
@@ -126,8 +126,9 @@ class NumberReader {
 /// side with its margin leaves 16 bits.
 int LimitedSide(std::int16_t side, float mostTwips)
 {
-    const float twips = static_cast<float>(core::RoundToInteger16(static_cast<double>(side) + Margin)) * TwipsPerPixel;
-    return static_cast<int>(std::min(twips, mostTwips) / TwipsPerPixel);
+    const auto  fitted = static_cast<float>(core::RoundToInteger16(static_cast<double>(side) + Margin));
+    const float twips = fitted * core::TwipsPerPixel;
+    return static_cast<int>(std::min(twips, mostTwips) / core::TwipsPerPixel);
 }
 
 void FitSurface(core::PixelSurface& surface, std::int16_t width, std::int16_t height, const Form& form)
@@ -230,12 +231,6 @@ Outcome DrawTile(std::int32_t record, core::PixelSurface& surface, ByteSource& i
     return DrawRuns(reader, surface, form);
 }
 
-bool IsFile(const std::string& programPath)
-{
-    std::error_code error;
-    return std::filesystem::is_regular_file(core::HostPath(programPath), error);
-}
-
 void DrawFromClientFolder(std::int32_t& id, core::PixelSurface& picture, const TileDrawing& drawing,
                           core::Rgb background, core::FileNumbers& numbers)
 {
@@ -245,7 +240,7 @@ void DrawFromClientFolder(std::int32_t& id, core::PixelSurface& picture, const T
     id = core::Add32(id, FirstStaticTile);
     // The test puts a separator behind the folder and the opening relies on the folder's own: a folder set
     // without one passes the test, and its tiles are those of two files that are made beside it.
-    if (!IsFile(drawing.uoPath + "\\Artidx.mul") || !IsFile(drawing.uoPath + "\\Art.mul")) {
+    if (!core::IsFile(drawing.uoPath + "\\Artidx.mul") || !core::IsFile(drawing.uoPath + "\\Art.mul")) {
         return;
     }
     picture.SetBackColour(background);

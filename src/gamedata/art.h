@@ -3,7 +3,6 @@
 #include <cstdint>
 #include <optional>
 #include <string>
-#include <string_view>
 #include <vector>
 
 #include "core/file_numbers.h"
@@ -55,7 +54,7 @@ void DrawStaticTileFromFiles(std::int32_t id, core::PixelSurface& picture, ByteS
 
 /// What `DrawStaticTile` draws once its files are open and the picture is cleared: the tile of an index record.
 /// False where the tile is found damaged in its course.
-/// Throws RuntimeError 6 where a number leaves its range.
+/// Throws RuntimeError 6 where a number leaves its range, 63 where the record's number is negative.
 bool DrawIndexRecord(std::int32_t record, core::PixelSurface& picture, ByteSource& index, ByteSource& art);
 
 /// A tile as the game itself shows it: all its lines, and clear (0) where its runs leave pixels out. Pixels are

@@ -4,6 +4,8 @@
 #include <cstdlib>
 #include <optional>
 
+#include "core/little_endian.h"
+
 namespace qf::gamedata {
 
 namespace {
@@ -30,22 +32,6 @@ std::size_t LineBytes(int width, std::size_t pixelBytes)
     return (static_cast<std::size_t>(width) * pixelBytes + 3) / 4 * 4;
 }
 
-void Put(std::span<std::byte> bytes, std::size_t at, std::uint32_t number, std::size_t count)
-{
-    for (std::size_t index = 0; index < count; ++index) {
-        bytes[at + index] = static_cast<std::byte>(number >> (8 * index));
-    }
-}
-
-std::uint32_t Get(std::span<const std::byte> bytes, std::size_t at, std::size_t count)
-{
-    std::uint32_t number = 0;
-    for (std::size_t index = 0; index < count; ++index) {
-        number |= static_cast<std::uint32_t>(bytes[at + index]) << (8 * index);
-    }
-    return number;
-}
-
 /// How the pixels of a file lie.
 struct Form {
     int         width = 0;
@@ -60,11 +46,14 @@ std::optional<Form> FormOf(std::span<const std::byte> file)
     if (file.size() < HeaderBytes || file[0] != std::byte{'B'} || file[1] != std::byte{'M'}) {
         return std::nullopt;
     }
-    const auto width = static_cast<std::int32_t>(Get(file, WidthAt, 4));
-    const auto height = static_cast<std::int32_t>(Get(file, HeightAt, 4));
-    const auto bits = Get(file, BitsAt, 2);
-    const bool plain = Get(file, InfoSizeAt, 4) >= InfoHeaderBytes && Get(file, PlanesAt, 2) == 1 &&
-                       (bits == 24 || bits == 32) && Get(file, CompressionAt, 4) == Uncompressed;
+    const auto number16 = [file](std::size_t at) { return core::ReadLittle16(file.data() + at); };
+    const auto number32 = [file](std::size_t at) { return core::ReadLittle32(file.data() + at); };
+
+    const auto          width = static_cast<std::int32_t>(number32(WidthAt));
+    const auto          height = static_cast<std::int32_t>(number32(HeightAt));
+    const std::uint32_t bits = number16(BitsAt);
+    const bool          plain = number32(InfoSizeAt) >= InfoHeaderBytes && number16(PlanesAt) == 1 &&
+                       (bits == 24 || bits == 32) && number32(CompressionAt) == Uncompressed;
     if (!plain || width <= 0 || width > MostSide || height == 0 || height > MostSide || height < -MostSide) {
         return std::nullopt;
     }
@@ -72,7 +61,7 @@ std::optional<Form> FormOf(std::span<const std::byte> file)
                     .height = std::abs(height),
                     .topDown = height < 0,
                     .pixelBytes = bits / 8,
-                    .pixelsAt = Get(file, PixelsAt, 4)};
+                    .pixelsAt = number32(PixelsAt)};
     const auto length = LineBytes(form.width, form.pixelBytes) * static_cast<std::size_t>(form.height);
     const bool whole =
         form.pixelsAt >= HeaderBytes && form.pixelsAt <= file.size() && length <= file.size() - form.pixelsAt;
@@ -89,14 +78,19 @@ void WriteBitmap(const core::PixelSurface& picture, std::vector<std::byte>& file
     file.assign(HeaderBytes + pixelBytes, std::byte{});
     file[0] = std::byte{'B'};
     file[1] = std::byte{'M'};
-    Put(file, SizeAt, static_cast<std::uint32_t>(file.size()), 4);
-    Put(file, PixelsAt, HeaderBytes, 4);
-    Put(file, InfoSizeAt, InfoHeaderBytes, 4);
-    Put(file, WidthAt, static_cast<std::uint32_t>(picture.Width()), 4);
-    Put(file, HeightAt, static_cast<std::uint32_t>(picture.Height()), 4);
-    Put(file, PlanesAt, 1, 2);
-    Put(file, BitsAt, 8 * PixelBytes, 2);
-    Put(file, PixelBytesAt, static_cast<std::uint32_t>(pixelBytes), 4);
+
+    const auto put = [&file](std::size_t at, std::size_t count, std::size_t number) {
+        core::StoreLittle(std::span(file).subspan(at, count), static_cast<std::uint32_t>(number));
+    };
+    put(SizeAt, 4, file.size());
+    put(PixelsAt, 4, HeaderBytes);
+    put(InfoSizeAt, 4, InfoHeaderBytes);
+    put(WidthAt, 4, static_cast<std::size_t>(picture.Width()));
+    put(HeightAt, 4, static_cast<std::size_t>(picture.Height()));
+    put(PlanesAt, 2, 1);
+    put(BitsAt, 2, 8 * PixelBytes);
+    put(PixelBytesAt, 4, pixelBytes);
+
     const int width = picture.Width();
     auto*     line = file.data() + HeaderBytes;
     for (int y = picture.Height() - 1; y >= 0; --y, line += lineBytes) {

@@ -20,12 +20,6 @@ namespace {
 constexpr std::string_view ListEnding = ".txt";
 constexpr std::string_view LineEnds = "\r\n";
 
-bool IsFile(const fs::path& path)
-{
-    std::error_code error;
-    return fs::is_regular_file(path, error);
-}
-
 /// The bytes of a file up to and including its first line end.
 std::string ReadFirstLine(const fs::path& path)
 {
@@ -35,11 +29,15 @@ std::string ReadFirstLine(const fs::path& path)
         throw core::RuntimeError(core::error::PathFileAccess);
     }
     constexpr auto End = std::filebuf::traits_type::eof();
-    for (auto next = file.sbumpc(); next != End; next = file.sbumpc()) {
-        bytes += static_cast<char>(next);
-        if (LineEnds.find(bytes.back()) != std::string_view::npos) {
-            break;
+    try {
+        for (auto next = file.sbumpc(); next != End; next = file.sbumpc()) {
+            bytes += static_cast<char>(next);
+            if (LineEnds.find(bytes.back()) != std::string_view::npos) {
+                break;
+            }
         }
+    } catch (const std::ios_base::failure&) {
+        throw core::RuntimeError(core::error::PathFileAccess);
     }
     return bytes;
 }
@@ -98,8 +96,9 @@ std::vector<std::string> ListCategories(std::string_view programFolder)
     std::error_code                                  error;
     fs::directory_iterator                           entry(core::HostPath(ExplorerFolder(programFolder)), error);
     while (!error && entry != fs::directory_iterator()) {
-        auto name = core::ProgramPath(entry->path().filename());
-        if (auto lower = core::LowerCase(name); lower.ends_with(ListEnding) && IsFile(entry->path())) {
+        std::error_code noFile;
+        auto            name = core::ProgramPath(entry->path().filename());
+        if (auto lower = core::LowerCase(name); lower.ends_with(ListEnding) && entry->is_regular_file(noFile)) {
             files.emplace_back(std::move(lower), std::move(name));
         }
         entry.increment(error);
@@ -131,15 +130,15 @@ std::optional<ItemList> ParseItemList(std::string_view bytes)
 std::optional<ItemList> GetItemList(std::string_view programFolder, std::string_view category,
                                     core::FileNumbers& numbers, core::Outlet& outlet)
 {
-    const auto path = core::HostPath(ItemListPath(programFolder, category));
-    if (!IsFile(path)) {
+    const auto path = ItemListPath(programFolder, category);
+    if (!core::IsFile(path)) {
         outlet.Show({.text = "Could not find the item list for '" + std::string(category) + "'.",
                      .style = core::MessageStyle::Warning,
                      .title = std::nullopt});
         return std::nullopt;
     }
     const int  number = numbers.Take();
-    const auto bytes = ReadFirstLine(path);
+    const auto bytes = ReadFirstLine(core::HostPath(path));
     numbers.Release(number);
     return ParseItemList(bytes);
 }
@@ -151,7 +150,7 @@ int DeleteCachedPictures(const ItemList& list, std::string_view programFolder, s
     for (const auto& text : list) {
         const auto      path = core::HostPath(folder + PictureName(core::ToInteger32(text)));
         std::error_code error;
-        if (IsFile(path) && fs::remove(path, error)) {
+        if (fs::is_regular_file(path, error) && fs::remove(path, error)) {
             ++count;
         }
     }

@@ -27,7 +27,7 @@ std::span<const Garment> GarmentsOf(int category)
 
 std::int32_t ItemIdOf(const Garment& garment)
 {
-    return core::TileNumber(core::TileIdText(garment.id, core::Generation09), core::Generation09);
+    return core::TileNumberOf(garment.id);
 }
 
 void AddGarment(const Garment* garment, core::ServerGeneration generation, core::Outlet& outlet)

@@ -10,7 +10,6 @@ namespace {
 constexpr int Gap = 8;
 constexpr int GapOfNewCell = 5;
 constexpr int RoomBelowGrid = 20;
-constexpr int RoomBesideViewport = 25;
 constexpr int RoomAroundViewport = 100;
 constexpr int GapOfButtons = 5;
 

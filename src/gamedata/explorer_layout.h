@@ -14,6 +14,9 @@ inline constexpr int CellSide = 75;
 /// How many cells the panel makes at its load.
 inline constexpr int InitialCells = 101;
 
+/// What of the panel's inner width is beside the viewport.
+inline constexpr int RoomBesideViewport = 25;
+
 /// The upper left corner of a cell on the grid.
 struct CellPlace {
     int left = 0;

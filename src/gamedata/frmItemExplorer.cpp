@@ -3,7 +3,6 @@
 #include <QCoreApplication>
 #include <QPointer>
 #include <algorithm>
-#include <utility>
 
 #include "core/number_rules.h"
 #include "ui/parts.h"
@@ -16,15 +15,7 @@ namespace {
 /// this many milliseconds is not felt.
 constexpr int MillisecondsBetweenEvents = 25;
 
-/// What is beside the grid, of which the rule for new cells knows the usual width.
-constexpr int BesideGrid = 25;
-
 constexpr std::string_view NoCategory = "Select an item category";
-
-core::Message Information(std::string text, std::optional<std::string> title = std::nullopt)
-{
-    return {std::move(text), core::MessageStyle::Information, std::move(title)};
-}
 
 } // namespace
 
@@ -140,22 +131,21 @@ void frmItemExplorer::RefreshCategories()
     VScroll1->setValue(0);
     Picture2->hide();
     LoadCategoryList();
-    Outlet().Show(Information("Category list has been refreshed from files."));
+    Outlet().Show(core::UntitledInformationBox("Category list has been refreshed from files."));
 }
 
 void frmItemExplorer::RebuildCache()
 {
     if (comboItemType->currentIndex() <= 0) {
-        Outlet().Show(Information("Please select an item category first."));
+        Outlet().Show(core::UntitledInformationBox("Please select an item category first."));
         return;
     }
     pictures_.SaveAll();
     const auto category = Category();
     const auto list = GetItemList(ProgramFolder(), category, Context().fileNumbers, Outlet());
     const int  count = DeleteCachedPictures(list.value_or(ItemList()), ProgramFolder(), category);
-    Outlet().Show(
-        Information("Cache cleared for '" + category + "' category. " + std::to_string(count) + " images removed.",
-                    "Cache Refreshed"));
+    Outlet().Show({"Cache cleared for '" + category + "' category. " + std::to_string(count) + " images removed.",
+                   core::MessageStyle::Information, "Cache Refreshed"});
     CategoryChosen();
 }
 
@@ -242,8 +232,9 @@ void frmItemExplorer::DrawCells(const ItemList& list)
         cell.Clear();
         cell.ShowPicture(picture_);
         if (isNew && i > 0) {
-            const auto place =
-                PlaceOfNewCell(Cell(i - 1).Place(), Cell(0).x(), width() - Scaled(BesideGrid) + BesideGrid);
+            // The rule for new cells knows the usual width of what is beside the grid.
+            const int  usualWidth = width() - Scaled(RoomBesideViewport) + RoomBesideViewport;
+            const auto place = PlaceOfNewCell(Cell(i - 1).Place(), Cell(0).x(), usualWidth);
             cell.move(place.left, place.top);
         }
         cell.tag = text;

@@ -4,6 +4,7 @@
 #include <string>
 
 #include "core/host_path.h"
+#include "core/little_endian.h"
 #include "gamedata/art.h"
 
 namespace qf::gamedata {
@@ -20,9 +21,9 @@ unsigned Byte(std::span<const std::byte> bytes, std::size_t place)
 }
 
 /// A colour of the file as a number with red lowest.
-std::int32_t FileColour(unsigned low, unsigned high)
+std::int32_t FileColour(const std::byte* bytes)
 {
-    const auto rgb = RoundingColour(static_cast<std::int16_t>(static_cast<std::uint16_t>(low | high << 8)));
+    const auto rgb = RoundingColour(static_cast<std::int16_t>(core::ReadLittle16(bytes)));
     return static_cast<std::int32_t>((rgb & 0xFF) << 16 | (rgb & 0xFF00) | rgb >> 16);
 }
 
@@ -30,7 +31,7 @@ void ReadEntry(std::span<const std::byte> bytes, HueEntry& entry)
 {
     std::size_t place = 0;
     for (auto& colour : entry.colours) {
-        colour = FileColour(Byte(bytes, place), Byte(bytes, place + 1));
+        colour = FileColour(bytes.data() + place);
         place += 2;
     }
     // High byte first, against the order of everything else in the file.
@@ -63,9 +64,8 @@ void ReadHueGroup(ByteSource& file, int number, HueGroup& group)
 void LoadHueData(std::string_view uoPath, HueTable& table, core::FileNumbers& numbers, const HueProgress& progress)
 {
     table.loaded = false;
-    const auto      path = std::string(uoPath) + "hues.mul";
-    std::error_code error;
-    if (!std::filesystem::is_regular_file(core::HostPath(path), error)) {
+    const auto path = std::string(uoPath) + "hues.mul";
+    if (!core::IsFile(path)) {
         return;
     }
     const int number = numbers.Take();

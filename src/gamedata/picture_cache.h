@@ -47,8 +47,8 @@ class PictureCache {
 
     /// The picture of an item: loaded where there is a file of it, otherwise drawn from the client's art files
     /// and saved. A file that is no picture is made anew. The surface takes the picture's size.
-    /// Throws RuntimeError 6 for a number out of range, 67 where no file number is free, 75 where a folder or
-    /// file cannot be made.
+    /// Throws RuntimeError 6 for a number out of range, 63 for one below -16384, which is below all records, 67
+    /// where no file number is free, 75 where a folder or file cannot be made.
     void GetCachedPicture(std::int32_t id, core::PixelSurface& picture);
 
     /// Writes pictures that are not saved yet: all of them, or those that can be written within a few

@@ -6,6 +6,8 @@
 #include "core/number_rules.h"
 #include "gamedata/art.h"
 #include "ui/panel.h"
+#include "ui/parts.h"
+#include "ui/path_box.h"
 #include "ui/picture_surface.h"
 
 namespace qf::ui {
@@ -70,6 +72,12 @@ bool AppContext::StayOnTopWanted()
 bool AppContext::ItemPicsWanted()
 {
     return OptionState("chkItemPics", settings.ItemPic) != Qt::Unchecked;
+}
+
+std::string AppContext::ConfiguredPath(std::string_view box)
+{
+    const auto& options = panels.Touch("frmOptions");
+    return dynamic_cast<const PathBox&>(*options.findChild<QLineEdit*>(Text(box))).ProgramText();
 }
 
 Qt::CheckState AppContext::OptionState(const char* box, bool saved)

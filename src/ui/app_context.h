@@ -75,6 +75,10 @@ class AppContext {
     /// panel, invisibly, where it is not loaded.
     bool ItemPicsWanted();
 
+    /// The path in a box of the configuration panel now, saved or not, in the program's form. Loads that panel,
+    /// invisibly, where it is not loaded.
+    std::string ConfiguredPath(std::string_view box);
+
     /// Draws the static tile of an item ID on a picture, where "See Item Pics" is on.
     /// Throws RuntimeError 6 for a number out of range, 63 for one below all records, 67 where no file number is free.
     void DrawStaticTile(std::int32_t id, PictureSurface& picture);

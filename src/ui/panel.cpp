@@ -8,6 +8,7 @@
 #include <utility>
 
 #include "core/number_rules.h"
+#include "core/twips.h"
 #include "ui/close_entry.h"
 #include "ui/keyboard.h"
 #include "ui/parts.h"
@@ -16,11 +17,9 @@ namespace qf::ui {
 
 namespace {
 
-constexpr int TwipsPerPixel = 15;
-
 int ToPixels(int twips)
 {
-    return qRound(static_cast<double>(twips) / TwipsPerPixel);
+    return qRound(static_cast<double>(twips) / core::TwipsPerPixel);
 }
 
 bool TakesClickFocus(const QWidget& control)
@@ -60,12 +59,12 @@ void Panel::SetStayOnTop(bool onTop)
 
 int Panel::LeftTwips() const
 {
-    return pos().x() * TwipsPerPixel;
+    return pos().x() * core::TwipsPerPixel;
 }
 
 int Panel::TopTwips() const
 {
-    return pos().y() * TwipsPerPixel;
+    return pos().y() * core::TwipsPerPixel;
 }
 
 void Panel::MoveToTwips(int left, int top)

@@ -4,6 +4,7 @@
 #include <system_error>
 #include <utility>
 
+#include "core/host_path.h"
 #include "core/runtime_error.h"
 
 namespace qf::world {
@@ -16,11 +17,9 @@ constexpr int         BusyMilliseconds = 250;
 constexpr std::size_t MostChangesInGroup = 10'000;
 constexpr std::size_t LongestStatement = 1'000'000'000;
 constexpr int         PrimaryCodeMask = 0xFF;
-constexpr int         FileAlreadyExists = 58;
-constexpr const char* FileAlreadyExistsText = "File already exists";
 
-// The columns InstanceID are added at the program's start. There is no index on the place: it makes a row cost
-// two and a half times as much, and an area query reads half a million rows in 20 ms without one.
+// The columns InstanceID are added at the program's start. There is no index on the place; docs/architecture.md
+// says why.
 // clang-format off
 constexpr const char* Schema =
     "CREATE TABLE tblItem ("
@@ -30,12 +29,6 @@ constexpr const char* Schema =
     "Serial INTEGER, Name TEXT, X INTEGER, Y INTEGER, Z INTEGER, "
     "World INTEGER, Owner INTEGER, ID INTEGER);";
 // clang-format on
-
-std::string Utf8(const fs::path& file)
-{
-    const auto text = file.u8string();
-    return {text.begin(), text.end()};
-}
 
 fs::path WithSuffix(fs::path file, const char* suffix)
 {
@@ -52,8 +45,8 @@ void Require(int code)
 
 int OpenConnection(const fs::path& file, int flags, sqlite3*& connection)
 {
-    // The program has one thread, so a lock in each call is for nothing.
-    const int code = sqlite3_open_v2(Utf8(file).c_str(), &connection, flags | SQLITE_OPEN_NOMUTEX, nullptr);
+    // One thread alone uses the database, so a lock in each call is for nothing.
+    const int code = sqlite3_open_v2(core::Utf8Of(file).c_str(), &connection, flags | SQLITE_OPEN_NOMUTEX, nullptr);
     if (connection != nullptr) {
         sqlite3_busy_timeout(connection, BusyMilliseconds);
     }
@@ -297,7 +290,7 @@ void UpgradeDatabase(Database& database)
 void CreateWorldDatabase(const fs::path& file)
 {
     if (std::error_code failure; fs::exists(fs::symlink_status(file, failure))) {
-        throw core::RuntimeError(FileAlreadyExists, FileAlreadyExistsText);
+        throw core::RuntimeError(core::error::FileAlreadyExists);
     }
     // A log that an earlier database of this name left behind would be played back into the new one.
     const auto      fresh = WithSuffix(file, ".new");

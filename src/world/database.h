@@ -91,7 +91,8 @@ class Database {
 /// skips the other.
 void UpgradeDatabase(Database& database);
 
-/// Writes a database file with the two empty tables. Throws RuntimeError 58 where the file exists.
+/// Writes a database file with the two empty tables. Throws RuntimeError 58 where the file exists, SQLite's code where
+/// it cannot be made, 75 where it cannot be given its name.
 void CreateWorldDatabase(const std::filesystem::path& file);
 
 } // namespace qf::world

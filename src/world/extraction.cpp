@@ -11,7 +11,6 @@
 #include "world/cover.h"
 #include "world/database.h"
 #include "world/item_types.h"
-#include "world/stored_number.h"
 #include "world/template_writer.h"
 
 namespace qf::world {
@@ -20,17 +19,12 @@ namespace {
 
 using core::ToText;
 
-core::Message PlainInformation(std::string text)
-{
-    return {.text = std::move(text), .style = core::MessageStyle::Information, .title = std::nullopt};
-}
-
 /// The file with its head, nothing where the user has to name the building first.
 std::optional<TemplateWriter> BeginTemplate(const ExtractionState& state, std::string_view programFolder,
                                             core::Outlet& outlet)
 {
     if (state.txtName.empty()) {
-        outlet.Show(PlainInformation("You must supply a name for this building"));
+        outlet.Show(core::UntitledInformationBox("You must supply a name for this building"));
         return std::nullopt;
     }
     TemplateWriter file(programFolder, state.txtName);
@@ -104,8 +98,8 @@ Building ReadBuilding(const ExtractionArea& area, Database& database)
 {
     Building building;
     database.ForEachRow(OptimizedQuery(area), [&](std::span<const std::string_view> row) {
-        building.Add(StoredNumber(row[0]), {.y = StoredNumber(row[2]), .x = StoredNumber(row[1])},
-                     StoredNumber(row[3]));
+        building.Add(core::ToInteger32(row[0]), {.y = core::ToInteger32(row[2]), .x = core::ToInteger32(row[1])},
+                     core::ToInteger32(row[3]));
     });
     return building;
 }
@@ -183,7 +177,7 @@ void WriteOptimizedTemplate(const ExtractionState& state, std::string_view progr
         WriteLayer(layer, building, *file);
     }
     file->Close();
-    outlet.Show(PlainInformation("Optimized template '" + file->Path() + "' created successfully!"));
+    outlet.Show(core::UntitledInformationBox("Optimized template '" + file->Path() + "' created successfully!"));
 }
 
 void WritePlainTemplate(const ExtractionState& state, std::string_view programFolder, Database& database,
@@ -196,10 +190,10 @@ void WritePlainTemplate(const ExtractionState& state, std::string_view programFo
     const auto area = CornersOf(state);
     database.ForEachRow("SELECT ID, X, Y, Z FROM tblItem WHERE " + Bounds(area),
                         [&](std::span<const std::string_view> row) {
-                            file->WriteLine(LineText(GetHexIDFromNum(StoredNumber(row[0])))
-                                                .Add(StoredNumber(row[1]), area.x1)
-                                                .Add(StoredNumber(row[2]), area.y1)
-                                                .Add(StoredNumber(row[3]), area.z1)
+                            file->WriteLine(LineText(GetHexIDFromNum(core::ToInteger32(row[0])))
+                                                .Add(core::ToInteger32(row[1]), area.x1)
+                                                .Add(core::ToInteger32(row[2]), area.y1)
+                                                .Add(core::ToInteger32(row[3]), area.z1)
                                                 .Text());
                         });
     file->Close();

@@ -199,7 +199,7 @@ void frmHouseTemplates::OpenExtraction()
     if (Context().worldLoaded) {
         Context().panels.ShowModal("frmHouseExtraction");
     } else {
-        Outlet().Show({"You haven't yet loaded the world, please do!", core::MessageStyle::Information, std::nullopt});
+        Outlet().Show(core::UntitledInformationBox("You haven't yet loaded the world, please do!"));
     }
 }
 

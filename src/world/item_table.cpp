@@ -1,7 +1,7 @@
 #include "world/item_table.h"
 
+#include "core/number_rules.h"
 #include "world/database.h"
-#include "world/stored_number.h"
 
 namespace qf::world {
 
@@ -12,9 +12,9 @@ void ItemTable::Read(Database& database)
     database.ForEachRow("SELECT Name, ID, Serial, iType, X, Y, Z FROM tblItem",
                         [this](std::span<const std::string_view> row) {
                             rows_.push_back({.nameBegin = names_.size(),
-                                             .id = StoredNumber(row[1]),
-                                             .serial = StoredNumber(row[2]),
-                                             .type = StoredNumber(row[3])});
+                                             .id = core::ToInteger32(row[1]),
+                                             .serial = core::ToInteger32(row[2]),
+                                             .type = core::ToInteger32(row[3])});
                             names_ += row[0];
                         });
 }

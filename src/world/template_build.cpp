@@ -3,8 +3,8 @@
 #include "core/number_rules.h"
 #include "core/runtime_error.h"
 #include "core/text.h"
+#include "world/line_file.h"
 #include "world/template_file.h"
-#include "world/world_file.h"
 
 namespace qf::world {
 
@@ -91,7 +91,7 @@ void BuildTemplate(std::string_view path, const BuildBoxes& boxes, core::ServerG
             outlet.Show(core::CriticalBox("Error: Could not find UO client window. Can't build house template."));
             return;
         }
-        WorldFile file(ExistingFile(path));
+        LineFile file(ExistingFile(path));
         BuildTemplateLines(file.Lines(), {x, y, z}, generation, outlet);
     } catch (const core::RuntimeError& error) {
         outlet.Show(core::PlainBox(error.Number() == core::error::TypeMismatch

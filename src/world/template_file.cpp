@@ -5,7 +5,7 @@
 #include "core/ansi.h"
 #include "core/host_path.h"
 #include "core/runtime_error.h"
-#include "world/world_file.h"
+#include "world/line_file.h"
 
 namespace qf::world {
 

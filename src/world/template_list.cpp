@@ -7,8 +7,8 @@
 #include "core/host_path.h"
 #include "core/runtime_error.h"
 #include "core/text.h"
+#include "world/line_file.h"
 #include "world/template_file.h"
-#include "world/world_file.h"
 
 namespace qf::world {
 
@@ -26,7 +26,7 @@ bool IsTemplateName(std::string_view name)
 
 std::string FirstLine(const fs::path& path)
 {
-    WorldFile   file(path);
+    LineFile    file(path);
     std::string line;
     NextLine(file.Lines(), line);
     return line;
@@ -67,7 +67,7 @@ std::vector<TemplateEntry> ListTemplates(std::string_view folder)
 
 std::string TemplateDescription(std::string_view path)
 {
-    WorldFile   file(ExistingFile(path));
+    LineFile    file(ExistingFile(path));
     std::string line;
     while (NextLine(file.Lines(), line)) {
         if (core::StartsWithIgnoringCase(line, "DESC")) {

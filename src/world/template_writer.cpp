@@ -15,9 +15,6 @@ namespace fs = std::filesystem;
 
 namespace {
 
-constexpr int         BadFileName = 52;
-constexpr const char* BadFileNameText = "Bad file name or number";
-
 constexpr std::string_view Extension = ".tmp";
 constexpr std::size_t      LongestFileName = 255;
 
@@ -28,7 +25,7 @@ constexpr std::size_t      LongestFileName = 255;
     case std::errc::not_a_directory: throw core::RuntimeError(core::error::PathNotFound);
     case std::errc::filename_too_long:
     case std::errc::invalid_argument:
-    case std::errc::illegal_byte_sequence: throw core::RuntimeError(BadFileName, BadFileNameText);
+    case std::errc::illegal_byte_sequence: throw core::RuntimeError(core::error::BadFileName);
     default: throw core::RuntimeError(core::error::PathFileAccess);
     }
 }

@@ -39,10 +39,12 @@ std::string_view TextLines::Cut(std::size_t length)
 
 bool TextLines::Refill()
 {
-    std::copy(block_.begin() + static_cast<std::ptrdiff_t>(begin_), block_.begin() + static_cast<std::ptrdiff_t>(end_),
-              block_.begin());
-    end_ -= begin_;
-    begin_ = 0;
+    if (begin_ != 0) {
+        std::copy(block_.begin() + static_cast<std::ptrdiff_t>(begin_),
+                  block_.begin() + static_cast<std::ptrdiff_t>(end_), block_.begin());
+        end_ -= begin_;
+        begin_ = 0;
+    }
     if (end_ == block_.size()) {
         block_.resize(block_.size() * 2);
     }

@@ -10,7 +10,7 @@
 #include "core/host_path.h"
 #include "core/number_rules.h"
 #include "core/runtime_error.h"
-#include "world/world_file.h"
+#include "world/line_file.h"
 
 namespace qf::world {
 
@@ -163,8 +163,8 @@ bool LoadWorldFiles070(std::string_view folder, RecordSink& sink, core::Outlet& 
             return false;
         }
     }
-    WorldFile items(itemsFile);
-    WorldFile characters(charactersFile);
+    LineFile items(itemsFile);
+    LineFile characters(charactersFile);
     ReadCharacterBlocks(characters.Lines(), sink, outlet);
     ReadItemBlocks(items.Lines(), sink, outlet);
     return true;

@@ -11,7 +11,8 @@ namespace qf::world {
 // The two files of the older layout: blocks between "{" and "}", each line a key and its value. What a block does
 // not tell keeps the value of the block before. Each statistic from 65536 up is told in a box and becomes 30000.
 //
-// They throw RuntimeError 13 or 6 for a value that is no number or does not fit.
+// They throw RuntimeError 13 or 6 for a value that is no number or does not fit, 75 for a file that cannot be opened
+// or read.
 
 /// Reads items.wsc. Gives the number of statistics that were told.
 int ReadItemBlocks(TextLines& lines, RecordSink& sink, core::Outlet& outlet);

@@ -12,7 +12,7 @@
 #include "core/number_rules.h"
 #include "core/runtime_error.h"
 #include "core/text.h"
-#include "world/world_file.h"
+#include "world/line_file.h"
 
 namespace qf::world {
 
@@ -185,7 +185,7 @@ void LoadWorldFiles09(std::string_view folder, RecordSink& sink, core::Outlet& o
             }
             if (FileExists(file)) {
                 ++count;
-                WorldFile world(file);
+                LineFile world(file);
                 ReadSections(world.Lines(), sink);
             }
         }

@@ -12,8 +12,8 @@ namespace qf::world {
 /// program path of the server's executable. True where a world was loaded: not for a generation without a reader,
 /// and not where a file of the older layout is missing.
 ///
-/// Throws RuntimeError for a value that cannot be read and for a statement that the store refuses; the tables then
-/// hold what was written before.
+/// Throws RuntimeError for a value that cannot be read, 75 for a file that cannot be opened or read, and the store's
+/// error for a statement that it refuses; the tables then hold what was written before.
 bool LoadWorld(Database& database, core::Outlet& outlet, core::ServerGeneration generation,
                std::string_view serverProgram);
 

@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include "core/host_path.h"
 #include "support/memory_store.h"
 #include "support/temp_folder.h"
 
@@ -61,8 +62,7 @@ TEST(SetupChoice, NeededUntilThereIsAGenerationThatTheProgramReads)
 TEST(SetupChoice, AFolderWithoutTileArtIsKnown)
 {
     const test::TempFolder folder;
-    const auto             text = folder.Path().u8string();
-    const SetupChoice      choice{1, {text.begin(), text.end()}};
+    const SetupChoice      choice{1, core::Utf8Of(folder.Path())};
     EXPECT_TRUE(LacksTileArt(choice));
     folder.Write("art.mul", "");
     EXPECT_TRUE(LacksTileArt(choice));

@@ -36,6 +36,24 @@ TEST(HostPath, EmptyPathStaysEmpty)
     EXPECT_TRUE(HostPath("").empty());
 }
 
+TEST(HostPath, Utf8AndBackIsTheSamePath)
+{
+    EXPECT_EQ(PathOf("a/\xC3\xA4"), fs::path(u8"a/\u00E4"));
+    EXPECT_EQ(Utf8Of(fs::path(u8"\u00E4.txt")), "\xC3\xA4.txt");
+    EXPECT_EQ(Utf8Of(PathOf("")), "");
+}
+
+TEST(HostPath, OnlyAFileIsAFile)
+{
+    const test::TempFolder folder;
+    folder.Write("Sub/art.mul", "");
+    EXPECT_TRUE(IsFile(folder.ProgramPath() + "\\Sub\\art.mul"));
+    EXPECT_TRUE(IsFile(folder.ProgramPath() + "\\sub\\ART.MUL"));
+    EXPECT_FALSE(IsFile(folder.ProgramPath() + "\\Sub\\artidx.mul"));
+    EXPECT_FALSE(IsFile(folder.ProgramPath() + "\\Sub"));
+    EXPECT_FALSE(IsFile(""));
+}
+
 #ifdef _WIN32
 
 TEST(HostPath, OnWindowsIsThePathItself)

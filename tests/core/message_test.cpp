@@ -20,6 +20,11 @@ TEST(Message, BoxesWithAnIconCarryTheProductTitle)
     EXPECT_EQ(QuestionBox("q"), (Message{"q", MessageStyle::Question, "Dobrin's Quernfield 20250 "}));
 }
 
+TEST(Message, AnInformationMayComeUntitled)
+{
+    EXPECT_EQ(UntitledInformationBox("i"), (Message{"i", MessageStyle::Information, std::nullopt}));
+}
+
 TEST(Message, StylesHaveTheirNumbers)
 {
     EXPECT_EQ(static_cast<int>(PlainBox("").style), 0);

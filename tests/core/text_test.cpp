@@ -102,6 +102,15 @@ TEST(TextProcedures, FolderKeepsItsBackslash)
     EXPECT_EQ(FolderOf(""), "");
 }
 
+TEST(TextProcedures, UpperHexHasNeitherPrefixNorLeadingZeros)
+{
+    EXPECT_EQ(UpperHex(0), "0");
+    EXPECT_EQ(UpperHex(9), "9");
+    EXPECT_EQ(UpperHex(0x5CE), "5CE");
+    EXPECT_EQ(UpperHex(0x12ABCDEF), "12ABCDEF");
+    EXPECT_EQ(UpperHex(0xFFFFFFFF), "FFFFFFFF");
+}
+
 TEST(TextProcedures, HueHexPairFormsTwoPairs)
 {
     struct Row {

@@ -79,6 +79,16 @@ TEST(TileNumber, EveryTileSurvivesBothWays)
     }
 }
 
+TEST(TileNumberOf, ReadsTheDigitsOfATable)
+{
+    EXPECT_EQ(TileNumberOf("04b5"), 0x04B5);
+    EXPECT_EQ(TileNumberOf("170B"), 0x170B);
+    EXPECT_EQ(TileNumberOf("ffff"), 65535);
+    for (const char* digits : {"", " ", "04 b5", "0x04b5", "-4", "04g5", "123456789"}) {
+        EXPECT_RUNTIME_ERROR(13, TileNumberOf(digits)) << " with " << digits;
+    }
+}
+
 TEST(TileNumber, AnythingElseIsATypeError)
 {
     for (const char* text : {"", " ", "04a9", "0x04a9", "04  a9", "04 a", "4 a9", "04-a9", "04 g9", "+4 a9", "04 -9"}) {

@@ -7,8 +7,18 @@
 #include <cstddef>
 #include <random>
 
+#include "support/scripted_uniform.h"
+
 namespace qf::core {
 namespace {
+
+TEST(DrawUpTo, PartsTheIntervalIntoEqualParts)
+{
+    test::ScriptedUniform uniform({0.0, 0.1999, 0.2, 0.5, 0.8, 0.9999});
+    for (const int drawn : {1, 1, 2, 3, 5, 5}) {
+        EXPECT_EQ(DrawUpTo(uniform, 5), drawn);
+    }
+}
 
 TEST(PseudoUniformGenerator, DrawsLieInTheHalfOpenInterval)
 {

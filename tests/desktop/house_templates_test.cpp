@@ -5,9 +5,9 @@
 
 #include "desktop/program_on_desktop.h"
 #include "support/recording_outlet.h"
+#include "world/line_file.h"
 #include "world/template_build.h"
 #include "world/template_list.h"
-#include "world/world_file.h"
 
 // The template panel builds what is shipped beside the program into the practice client, which runs in another
 // process; it must have received every line of every template.
@@ -27,7 +27,7 @@ const std::string Shipped = core::ProgramPath(QF_TEMPLATES) + "\\";
 /// The lines that a build of a shipped template types at 1010, 1020, -5.
 Lines TypedFor(const std::string& fileName, core::ServerGeneration generation)
 {
-    world::WorldFile      file(core::HostPath(Shipped + fileName));
+    world::LineFile       file(core::HostPath(Shipped + fileName));
     test::RecordingOutlet outlet;
     world::BuildTemplateLines(file.Lines(), {1010, 1020, -5}, generation, outlet);
     Lines lines;

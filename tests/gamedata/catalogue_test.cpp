@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <filesystem>
+
 #include "support/expect_error.h"
 #include "support/recording_outlet.h"
 #include "support/temp_folder.h"
@@ -132,6 +134,15 @@ TEST_F(ItemListFile, IsReportedWhereItIsMissing)
     EXPECT_EQ(outlet_.Messages(), (std::vector<core::Message>{{"Could not find the item list for 'Gems'.",
                                                                core::MessageStyle::Warning, std::nullopt}}));
 }
+
+#ifndef _WIN32
+TEST_F(ItemListFile, ThatFailsInItsCourseIsAnError)
+{
+    // A file that opens, and of whose first bytes none can be read.
+    std::filesystem::create_symlink("/proc/self/mem", folder_.MakeFolder("ItemExplorer") / "Gems.txt");
+    EXPECT_RUNTIME_ERROR(75, Get("Gems"));
+}
+#endif
 
 TEST_F(ItemListFile, NeedsAFileNumber)
 {

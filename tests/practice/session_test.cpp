@@ -3,6 +3,7 @@
 #include <string>
 
 #include "practice/session.h"
+#include "tiles_at.h"
 
 namespace qf::practice {
 
@@ -72,7 +73,7 @@ TEST(PracticeSession, LaysATileWhereItIsClicked)
     session.Receive("'add 04 a9");
     EXPECT_FALSE(session.Hint().empty());
     session.Click({{5, 6, 20}, std::nullopt});
-    EXPECT_EQ(session.GetWorld().Top(5, 6), (Tile{{5, 6, 20}, 0x04A9}));
+    EXPECT_EQ(TilesAt(session.GetWorld(), 5, 6), (std::vector<Tile>{{{5, 6, 20}, 0x04A9}}));
     EXPECT_TRUE(session.Hint().empty());
     session.Click({{7, 7, 0}, std::nullopt});
     EXPECT_EQ(session.GetWorld().Count(), 1U);
@@ -97,7 +98,7 @@ TEST(PracticeSession, FillsBetweenTwoClicks)
     EXPECT_EQ(session.FirstCorner(), (Position{8, 9, 5}));
     session.Click({{5, 5, 0}, std::nullopt});
     EXPECT_EQ(session.GetWorld().Count(), 20U);
-    EXPECT_EQ(session.GetWorld().Top(5, 5)->at.z, 5);
+    EXPECT_EQ(TilesAt(session.GetWorld(), 5, 5), (std::vector<Tile>{{{5, 5, 5}, 0x04A9}}));
     EXPECT_EQ(session.Waiting().has_value(), false);
 }
 
@@ -109,7 +110,7 @@ TEST(PracticeSession, ANewCommandReplacesTheOneThatWaits)
     session.Receive("'add 0x0001");
     session.Click({{1, 1, 0}, std::nullopt});
     EXPECT_EQ(session.GetWorld().Count(), 1U);
-    EXPECT_EQ(session.GetWorld().Top(1, 1)->id, 1);
+    EXPECT_EQ(TilesAt(session.GetWorld(), 1, 1), (std::vector<Tile>{{{1, 1, 0}, 1}}));
 }
 
 TEST(PracticeSession, RemovesTheTileThatIsClicked)

@@ -104,7 +104,7 @@ TEST(PracticeArt, IsFoundInAFolder)
 {
     const Art              art;
     const test::TempFolder folder;
-    const std::string      path = folder.Path().string();
+    const auto&            path = folder.Path();
     EXPECT_FALSE(TileArt::Open(path));
     folder.Write("Art.mul", art.bytes);
     EXPECT_FALSE(TileArt::Open(path));
@@ -112,7 +112,7 @@ TEST(PracticeArt, IsFoundInAFolder)
     const auto tiles = TileArt::Open(path);
     ASSERT_TRUE(tiles);
     EXPECT_TRUE(tiles->Read(FloorTile));
-    EXPECT_FALSE(TileArt::Open(path + "/none"));
+    EXPECT_FALSE(TileArt::Open(path / "none"));
 }
 
 TEST(PracticeArt, IsPlacedOnTheCellsMiddleAndBottom)

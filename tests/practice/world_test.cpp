@@ -4,10 +4,13 @@
 #include <tuple>
 
 #include "practice/world.h"
+#include "tiles_at.h"
 
 namespace qf::practice {
 
 namespace {
+
+using Tiles = std::vector<Tile>;
 
 TEST(PracticeWorld, HoldsTheSameTileAtOneHeightOnce)
 {
@@ -52,9 +55,9 @@ TEST(PracticeWorld, FillsAnAreaWhateverTheOrderOfItsCorners)
 {
     World world;
     EXPECT_EQ(world.PlaceArea(0x04A9, {107, 102, 100, 100}, 5).placed, 8U * 3U);
-    EXPECT_EQ(world.Top(100, 102), (Tile{{100, 102, 5}, 0x04A9}));
-    EXPECT_EQ(world.Top(107, 100), (Tile{{107, 100, 5}, 0x04A9}));
-    EXPECT_EQ(world.Top(108, 100), std::nullopt);
+    EXPECT_EQ(TilesAt(world, 100, 102), (Tiles{{{100, 102, 5}, 0x04A9}}));
+    EXPECT_EQ(TilesAt(world, 107, 100), (Tiles{{{107, 100, 5}, 0x04A9}}));
+    EXPECT_EQ(TilesAt(world, 108, 100), Tiles{});
     EXPECT_EQ(world.PlaceArea(0x04A9, {100, 100, 107, 102}, 5).placed, 0U);
 }
 
@@ -93,7 +96,7 @@ TEST(PracticeWorld, WipesInsideAndOutsideABox)
     EXPECT_EQ(world.Count(), 0U);
     world.PlaceArea(1, {10, 10, 11, 11}, 0);
     EXPECT_EQ(world.Clear(), 4U);
-    EXPECT_EQ(world.Top(10, 10), std::nullopt);
+    EXPECT_EQ(TilesAt(world, 10, 10), Tiles{});
 }
 
 TEST(PracticeWorld, RemovesOneTile)
@@ -101,11 +104,11 @@ TEST(PracticeWorld, RemovesOneTile)
     World world;
     world.PlaceArea(1, {10, 10, 10, 10}, 0);
     world.PlaceArea(2, {10, 10, 10, 10}, 20);
-    EXPECT_EQ(world.Top(10, 10)->id, 2);
+    EXPECT_EQ(TilesAt(world, 10, 10).size(), 2U);
     EXPECT_TRUE(world.Remove({{10, 10, 20}, 2}));
     EXPECT_FALSE(world.Remove({{10, 10, 20}, 2}));
     EXPECT_FALSE(world.Remove({{-10, 10, 20}, 2}));
-    EXPECT_EQ(world.Top(10, 10)->id, 1);
+    EXPECT_EQ(TilesAt(world, 10, 10), (Tiles{{{10, 10, 0}, 1}}));
 }
 
 } // namespace

@@ -68,7 +68,7 @@ bool TempFolder::Has(std::string_view name) const
 
 fs::path TempFolder::Inside(std::string_view name) const
 {
-    return path_ / fs::path(std::u8string(name.begin(), name.end()));
+    return path_ / core::PathOf(name);
 }
 
 } // namespace qf::test

@@ -7,9 +7,9 @@
 #include "core/host_path.h"
 #include "core/number_rules.h"
 #include "support/recording_outlet.h"
+#include "world/line_file.h"
 #include "world/template_build.h"
 #include "world/template_list.h"
-#include "world/world_file.h"
 
 // The templates that lie beside the program build in both generations.
 
@@ -21,7 +21,7 @@ const std::string Folder = core::ProgramPath(QF_TEMPLATES) + "\\";
 /// The effects of building a template at 1000, 1000, 0.
 std::vector<test::OutletEntry> Built(const std::string& fileName, core::ServerGeneration generation)
 {
-    WorldFile             file(core::HostPath(Folder + fileName));
+    LineFile              file(core::HostPath(Folder + fileName));
     test::RecordingOutlet outlet;
     BuildTemplateLines(file.Lines(), {1000, 1000, 0}, generation, outlet);
     return outlet.Entries();

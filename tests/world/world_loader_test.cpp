@@ -10,7 +10,7 @@
 #include "support/recording_outlet.h"
 #include "support/temp_folder.h"
 #include "support/world_files.h"
-#include "world/world_file.h"
+#include "world/line_file.h"
 
 namespace qf::world {
 namespace {
@@ -290,10 +290,10 @@ TEST_F(WorldLoaderTest, NamesThatLookLikeStatementsAreTexts)
     EXPECT_EQ(ItemNames(), rows);
 }
 
-TEST(WorldFile, ThatCannotBeOpenedIsAnError)
+TEST(LineFile, ThatCannotBeOpenedIsAnError)
 {
     const test::TempFolder folder;
-    EXPECT_EQ(FailureOf([&] { WorldFile file(folder.Path() / "none"); }).first, 75);
+    EXPECT_EQ(FailureOf([&] { LineFile file(folder.Path() / "none"); }).first, 75);
     EXPECT_FALSE(FileExists(folder.Path() / "none"));
     EXPECT_FALSE(FileExists(folder.Path()));
     EXPECT_TRUE(FileExists(folder.Write("some", "")));

@@ -2,6 +2,8 @@
 
 #include <filesystem>
 
+#include "core/host_path.h"
+
 #ifdef _WIN32
 #include "app/settings/registry_settings_store.h"
 #else
@@ -22,11 +24,10 @@ std::unique_ptr<core::SettingsStore> OpenSettingsStore()
 std::string SettingsPlace()
 {
 #ifdef _WIN32
-    const auto place = (std::filesystem::path(L"HKEY_CURRENT_USER") / RegistrySettingsStore::DefaultRoot).u8string();
+    return core::Utf8Of(std::filesystem::path(L"HKEY_CURRENT_USER") / RegistrySettingsStore::DefaultRoot);
 #else
-    const auto place = FileSettingsStore::DefaultFile().u8string();
+    return core::Utf8Of(FileSettingsStore::DefaultFile());
 #endif
-    return {place.begin(), place.end()};
 }
 
 } // namespace qf::app

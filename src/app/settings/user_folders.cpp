@@ -12,7 +12,7 @@ namespace {
 
 fs::path AbsoluteFromEnvironment(const char* name)
 {
-    // The environment is only read, and by one thread.
+    // Nothing writes the environment any more when this reads it.
     const char* text = std::getenv(name); // NOLINT(concurrency-mt-unsafe)
     fs::path    path = text == nullptr ? "" : text;
     return path.is_absolute() ? path : fs::path();

@@ -15,22 +15,20 @@ namespace {
 constexpr std::string_view GenerationKey = "ZarnVer";
 constexpr std::string_view FolderKey = "UOPath";
 
+/// Where a client is usually installed; empty where the system has no such place.
+std::string UsualFolder()
+{
 #ifdef _WIN32
-constexpr std::string_view UsualFolder = "C:\\Program Files\\Ultima Online\\";
+    return std::string(core::UsualClientFolder) + "\\";
 #else
-constexpr std::string_view UsualFolder;
+    return {};
 #endif
+}
 
 bool IsFolder(std::string_view programPath)
 {
     std::error_code failure;
     return !programPath.empty() && std::filesystem::is_directory(core::HostPath(programPath), failure);
-}
-
-bool IsFile(std::string_view programPath)
-{
-    std::error_code failure;
-    return std::filesystem::is_regular_file(core::HostPath(programPath), failure);
 }
 
 /// The generation as the program reads it at its start.
@@ -51,8 +49,7 @@ std::optional<int> StoredGeneration(core::SettingsStore& store)
 
 SetupTexts TextsOf(const SetupChoice& choice)
 {
-    const std::u8string folder(choice.clientFolder.begin(), choice.clientFolder.end());
-    SetupTexts          texts{std::to_string(choice.generation), core::ProgramPath(std::filesystem::path(folder))};
+    SetupTexts texts{std::to_string(choice.generation), core::ProgramPath(core::PathOf(choice.clientFolder))};
     if (!texts.uoPath.ends_with('\\')) {
         texts.uoPath += '\\';
     }
@@ -65,19 +62,18 @@ SetupChoice InitialChoice(core::SettingsStore& store, std::string_view practiceA
     choice.generation = StoredGeneration(store) == 0 ? 0 : 1;
 
     const auto stored = store.Find(core::section::Configuration, FolderKey);
-    if (!stored && !practiceArt.empty() && !IsFolder(UsualFolder)) {
+    if (!stored && !practiceArt.empty() && !IsFolder(UsualFolder())) {
         choice.clientFolder = practiceArt;
         return choice;
     }
-    const auto hostForm = core::HostPath(stored.value_or(std::string(UsualFolder))).u8string();
-    choice.clientFolder.assign(hostForm.begin(), hostForm.end());
+    choice.clientFolder = core::Utf8Of(core::HostPath(stored ? *stored : UsualFolder()));
     return choice;
 }
 
 bool LacksTileArt(const SetupChoice& choice)
 {
     const auto folder = TextsOf(choice).uoPath;
-    return !choice.clientFolder.empty() && !(IsFile(folder + "art.mul") && IsFile(folder + "artidx.mul"));
+    return !choice.clientFolder.empty() && !(core::IsFile(folder + "art.mul") && core::IsFile(folder + "artidx.mul"));
 }
 
 bool IsSetupNeeded(core::SettingsStore& store)

@@ -38,7 +38,8 @@ SetupTexts TextsOf(const SetupChoice& choice);
 /// is none) stands in for a client that is not there.
 SetupChoice InitialChoice(core::SettingsStore& store, std::string_view practiceArt = {});
 
-/// Whether pictures of tiles can be drawn from the chosen folder. An empty one is chosen by who wants none.
+/// Whether the chosen folder lacks the files that pictures of tiles are drawn from. An empty one is chosen by who wants
+/// none, and lacks nothing.
 bool LacksTileArt(const SetupChoice& choice);
 
 /// Whether the store lacks a generation with which the program can start.

@@ -8,6 +8,7 @@
 #include "app/quern_picture.h"
 #include "app/settings/store_factory.h"
 #include "app/setup/setup_dialog.h"
+#include "core/host_path.h"
 #include "core/installed_folders.h"
 #include "ui/desktop_colours.h"
 #include "ui/parts.h"
@@ -32,8 +33,7 @@ Options ReadOptions(int argc, char** argv)
 
 std::string PracticeArt()
 {
-    const auto art = qf::core::PracticeArtFolder(QDir(QApplication::applicationDirPath()).filesystemPath()).u8string();
-    return {art.begin(), art.end()};
+    return qf::core::Utf8Of(qf::core::PracticeArtFolder(QDir(QApplication::applicationDirPath()).filesystemPath()));
 }
 
 /// The program beside this one, on its own from then on. Where that fails, the user is told.

@@ -1,19 +1,15 @@
 #include "client/platform/simulated/simulated_platform.h"
 
 #include <algorithm>
+#include <array>
 #include <iterator>
 #include <limits>
 #include <utility>
 
+#include "core/little_endian.h"
 #include "core/text.h"
 
 namespace qf::client {
-
-namespace {
-
-constexpr std::uint32_t ReturnKey = 13;
-
-} // namespace
 
 WindowHandle SimulatedPlatform::AddWindow(std::string className, std::string title, ProcessId process)
 {
@@ -98,12 +94,12 @@ std::byte* SimulatedPlatform::ByteAt(ProcessId process, std::uint64_t address)
 
 void SimulatedPlatform::Poke(ProcessId process, std::uint64_t address, std::int32_t number)
 {
-    auto rest = static_cast<std::uint32_t>(number);
-    for (std::uint64_t i = 0; i < sizeof number; ++i) {
+    std::array<std::byte, sizeof number> bytes{};
+    core::StoreLittle(bytes, static_cast<std::uint32_t>(number));
+    for (std::size_t i = 0; i < bytes.size(); ++i) {
         if (std::byte* byte = ByteAt(process, address + i)) {
-            *byte = static_cast<std::byte>(rest & 0xFF);
+            *byte = bytes[i];
         }
-        rest >>= 8;
     }
 }
 
@@ -185,7 +181,7 @@ bool SimulatedPlatform::Post(WindowHandle window, std::uint32_t message, std::ui
     }
     if (message == message::Char) {
         target->line.push_back(static_cast<char>(static_cast<unsigned char>(wParam)));
-    } else if (message == message::KeyDown && wParam == ReturnKey) {
+    } else if (message == message::KeyDown && wParam == message::ReturnKey) {
         lines_.push_back(std::exchange(target->line, {}));
     }
     return true;

@@ -11,13 +11,6 @@ namespace {
 
 constexpr std::array<std::string_view, 4> SdlLibraryNames{"libSDL2-", "libSDL2.", "libSDL3-", "libSDL3."};
 
-constexpr std::array<std::string_view, 4> KnownClientClasses{
-    "Ultima Online",
-    "Ultima Online Third Dawn",
-    "Ultima Online 3D",
-    "UOASSIST-TP-MSG-WND",
-};
-
 } // namespace
 
 bool MapsNameSdl(std::istream& maps)
@@ -48,7 +41,8 @@ bool ProcessUsesSdl(ProcessId process)
 
 bool IsKnownClientClass(std::string_view className)
 {
-    return std::find(KnownClientClasses.begin(), KnownClientClasses.end(), className) != KnownClientClasses.end();
+    const auto& classic = window_class::Classic;
+    return className == window_class::Assist || std::find(classic.begin(), classic.end(), className) != classic.end();
 }
 
 } // namespace qf::client

@@ -13,8 +13,6 @@ namespace qf::client {
 
 namespace {
 
-constexpr std::string_view SdlClass = "SDL_app";
-
 constexpr std::chrono::milliseconds ForegroundWait{500};
 
 // Frames of window managers are a few windows deep.
@@ -122,7 +120,7 @@ std::vector<WindowInfo> X11Desktop::Windows()
         if (!IsKnownClientClass(info.className)) {
             seen.emplace(request.window, process);
             if (IsSdl(request.window, process)) {
-                info.className = SdlClass;
+                info.className = window_class::Sdl;
             }
         }
         if (netName) {

@@ -7,8 +7,6 @@ namespace qf::client {
 
 namespace {
 
-constexpr std::uint32_t ReturnKey = 13;
-
 /// The window's number on the server, or none for a handle that cannot be one.
 xcb_window_t NumberOf(WindowHandle window)
 {
@@ -59,7 +57,7 @@ bool X11Platform::Post(WindowHandle window, std::uint32_t message, std::uint32_t
     switch (message) {
     case message::Char: return typist_.TypeCharacter(target, static_cast<unsigned char>(wParam));
     case message::KeyDown:
-    case message::KeyUp: return wParam == ReturnKey && typist_.TypeReturn(target, message == message::KeyDown);
+    case message::KeyUp: return wParam == message::ReturnKey && typist_.TypeReturn(target, message == message::KeyDown);
     default: return false;
     }
 }

@@ -10,11 +10,11 @@ namespace qf::world {
 /// Whether there is something of this name that is no folder.
 bool FileExists(const std::filesystem::path& file);
 
-/// A world file that is open for reading.
-class WorldFile {
+/// A text file that is open for reading.
+class LineFile {
   public:
     /// Throws RuntimeError 75 where the file cannot be opened.
-    explicit WorldFile(const std::filesystem::path& file);
+    explicit LineFile(const std::filesystem::path& file);
 
     TextLines& Lines() { return lines_; }
 

@@ -1,4 +1,4 @@
-#include "world/world_file.h"
+#include "world/line_file.h"
 
 #include <system_error>
 
@@ -15,7 +15,7 @@ bool FileExists(const fs::path& file)
     return fs::exists(status) && !fs::is_directory(status);
 }
 
-WorldFile::WorldFile(const fs::path& file) : lines_(bytes_)
+LineFile::LineFile(const fs::path& file) : lines_(bytes_)
 {
     if (bytes_.open(file, std::ios::in | std::ios::binary) == nullptr) {
         throw core::RuntimeError(core::error::PathFileAccess);
