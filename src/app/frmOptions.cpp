@@ -200,9 +200,8 @@ QLayout* frmOptions::MakeBottomRow()
 {
     auto* row = new QHBoxLayout;
     auto* save = ui::MakeButton(this, "cmdSave", "Save");
-    auto* leave = ui::MakeButton(this, "cmdReturn", "Exit");
+    auto* leave = MakeExit(this, "cmdReturn", "");
     OnClick(*save, [this] { Save(); });
-    OnClick(*leave, [this] { Context().panels.Unload(*this); });
     row->addStretch(1);
     row->addWidget(save);
     row->addWidget(leave);

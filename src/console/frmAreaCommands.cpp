@@ -31,8 +31,7 @@ frmAreaCommands::frmAreaCommands(ui::AppContext& context) : Panel(context, "frmA
     right->addWidget(MakeGroup("Properties"));
     right->addStretch(1);
 
-    auto* leave = ui::MakeButton(this, "cmdExit", "Exit", "Closes this panel");
-    OnClick(*leave, [this] { Context().panels.Unload(*this); });
+    auto* leave = MakeExit(this, "cmdExit");
     auto* bottom = new QHBoxLayout;
     bottom->addStretch(1);
     bottom->addWidget(leave);
@@ -83,7 +82,7 @@ QPushButton* frmAreaCommands::MakeCommand(QGroupBox& frame, const AreaCommand& c
 {
     const auto name = ui::Utf8(ui::MemberName("cmdAreaCmdArray", command.index));
     auto*      button = ui::MakeButton(&frame, name, command.caption, command.toolTip);
-    button->setMinimumWidth(button->sizeHint().width() + fontMetrics().height());
+    ui::GiveRoom(*button);
     OnClick(*button, [this, &command] { SendAreaCommand(command, ui::Utf8(Box(command.box).text()), Outlet()); });
     return button;
 }

@@ -1,8 +1,10 @@
 #include "console/frmGMCommands.h"
 
+#include <QGridLayout>
 #include <QHBoxLayout>
 #include <QVBoxLayout>
 #include <algorithm>
+#include <array>
 
 #include "client/external_tools.h"
 #include "console/pick_list.h"

@@ -1,10 +1,9 @@
 #pragma once
 
-#include <QGridLayout>
 #include <QGroupBox>
+#include <QLayout>
 #include <QPushButton>
 #include <QTabWidget>
-#include <array>
 #include <memory>
 
 #include "console/console_page.h"

@@ -45,8 +45,7 @@ frmNPC::frmNPC(ui::AppContext& context) : Panel(context, "frmNPC"), optSpawnType
     right->addStretch(1);
     body->addLayout(right);
 
-    auto* leave = ui::MakeButton(this, "cmdReturn", "Exit", "Closes this panel");
-    OnClick(*leave, [this] { Context().panels.Unload(*this); });
+    auto* leave = MakeExit(this, "cmdReturn");
     auto* bottom = new QHBoxLayout;
     bottom->addStretch(1);
     bottom->addWidget(leave);

@@ -42,8 +42,7 @@ frmNPCWander::frmNPCWander(ui::AppContext& context) : Panel(context, "frmNPCWand
         AddPositionControl(row);
     }
 
-    auto* leave = ui::MakeButton(frame, "cmdReturn", "Exit", "Closes this panel");
-    OnClick(*leave, [this] { Context().panels.Unload(*this); });
+    auto* leave = MakeExit(frame, "cmdReturn");
     auto* bottom = new QHBoxLayout;
     bottom->addStretch(1);
     bottom->addWidget(leave);

@@ -31,19 +31,18 @@ frmPrivs::frmPrivs(ui::AppContext& context) : Panel(context, "frmPrivs"), chkCha
     auto* gm = ui::MakeButton(this, "cmdMakeGM", "Make GM");
     privilegeFrame_ = MakePrivilegeFrame();
     auto* set = ui::MakeButton(this, "cmdCharSetPrivs", "Set Privileges");
-    auto* leave = ui::MakeButton(this, "cmdExit", "Exit", "Closes this panel");
+    auto* leave = MakeExit(this, "cmdExit");
     OnClick(*player, [this] { MakePlayer(Context().generation, Outlet()); });
     OnClick(*counselor, [this] { MakeCounselor(Context().generation, Outlet()); });
     OnClick(*gm, [this] { MakeGM(Context().generation, Outlet()); });
     OnClick(*set, [this] { SetPrivileges(Checks(), Context().generation, Outlet()); });
-    OnClick(*leave, [this] { Context().panels.Unload(*this); });
 
     auto* ranks = new QHBoxLayout;
     for (auto* button : {player, counselor, gm}) {
         button->setMinimumWidth(counselor->sizeHint().width() + fontMetrics().height());
         ranks->addWidget(button, 1);
     }
-    set->setMinimumWidth(set->sizeHint().width() + fontMetrics().height());
+    ui::GiveRoom(*set);
     auto* bottom = new QHBoxLayout;
     bottom->addWidget(set);
     bottom->addStretch(1);

@@ -24,8 +24,7 @@ frmShop::frmShop(ui::AppContext& context) : Panel(context, "frmShop")
     }
     all->addStretch(1);
 
-    auto* leave = ui::MakeButton(this, "Command4", "Exit", "Closes this panel");
-    OnClick(*leave, [this] { Context().panels.Unload(*this); });
+    auto* leave = MakeExit(this, "Command4");
     auto* bottom = new QHBoxLayout;
     bottom->addStretch(1);
     bottom->addWidget(leave);
@@ -47,7 +46,7 @@ QGroupBox* frmShop::MakeGroup(std::string_view group)
             layout->addWidget(box, row, 0);
         }
         auto* button = ui::MakeButton(frame, command.name, command.caption);
-        button->setMinimumWidth(button->sizeHint().width() + fontMetrics().height());
+        ui::GiveRoom(*button);
         OnClick(*button, [this, box, &command] {
             const auto text = box != nullptr ? ui::Utf8(box->text()) : std::string();
             SendShopCommand(command, text, Context().generation, Outlet());

@@ -29,8 +29,7 @@ frmShutdown::frmShutdown(ui::AppContext& context) : Panel(context, "frmShutdown"
         immediate->addWidget(MakeShutdownButton(row), 1);
     }
 
-    auto* leave = ui::MakeButton(this, "cmdReturn", "Exit", "Closes this panel");
-    OnClick(*leave, [this] { Context().panels.Unload(*this); });
+    auto* leave = MakeExit(this, "cmdReturn");
     auto* bottom = new QHBoxLayout;
     bottom->addStretch(1);
     bottom->addWidget(leave);
@@ -46,7 +45,7 @@ frmShutdown::frmShutdown(ui::AppContext& context) : Panel(context, "frmShutdown"
 QPushButton* frmShutdown::MakeShutdownButton(const ShutdownButton& row)
 {
     auto* button = ui::MakeButton(this, row.name, row.caption);
-    button->setMinimumWidth(button->sizeHint().width() + fontMetrics().height());
+    ui::GiveRoom(*button);
     OnClick(*button, [this, &row] { SendShutdown(row, Outlet()); });
     return button;
 }

@@ -5,6 +5,7 @@
 #include <QRadioButton>
 #include <QVBoxLayout>
 
+#include "ui/box_fields.h"
 #include "ui/parts.h"
 
 namespace qf::console {
@@ -13,19 +14,13 @@ namespace {
 
 constexpr int NumberDigits = 6;
 
-/// A box of the panel and the field that holds its text.
-struct BoxField {
-    std::string_view box;
-    std::string GameTimeState::*text;
-};
-
 // clang-format off
-constexpr std::array boxFields{
-    BoxField{"Hours",     &GameTimeState::Hours},
-    BoxField{"Minutes",   &GameTimeState::Minutes},
-    BoxField{"ampm",      &GameTimeState::ampm},
-    BoxField{"added",     &GameTimeState::added},
-    BoxField{"uoseconds", &GameTimeState::uoseconds},
+constexpr ui::BoxField<GameTimeState> boxFields[] = {
+    {"Hours",     &GameTimeState::Hours},
+    {"Minutes",   &GameTimeState::Minutes},
+    {"ampm",      &GameTimeState::ampm},
+    {"added",     &GameTimeState::added},
+    {"uoseconds", &GameTimeState::uoseconds},
 };
 // clang-format on
 
@@ -38,9 +33,8 @@ frmTime::frmTime(ui::AppContext& context) : Panel(context, "frmTime"), halves_(n
     auto* speed = MakeSpeedFrame();
 
     auto* show = ui::MakeButton(this, "Command2", "Show Time", "Asks the server for the time of the game world");
-    auto* leave = ui::MakeButton(this, "Command4", "Exit", "Closes this panel");
+    auto* leave = MakeExit(this, "Command4");
     OnClick(*show, [this] { ShowGameTime(Outlet()); });
-    OnClick(*leave, [this] { Context().panels.Unload(*this); });
     auto* bottom = new QHBoxLayout;
     bottom->addWidget(show);
     bottom->addStretch(1);
@@ -127,21 +121,13 @@ void frmTime::Load()
 GameTimeState frmTime::State() const
 {
     GameTimeState state;
-    for (const auto& field : boxFields) {
-        state.*field.text = ui::Utf8(Box(field.box).text());
-    }
+    ui::ReadBoxes(boxFields, *this, state);
     return state;
 }
 
 void frmTime::Show(const GameTimeState& state)
 {
-    for (const auto& field : boxFields) {
-        auto&      box = Box(field.box);
-        const auto text = ui::Text(state.*field.text);
-        if (box.text() != text) {
-            box.setText(text);
-        }
-    }
+    ui::ShowBoxes(boxFields, *this, state);
 }
 
 } // namespace qf::console

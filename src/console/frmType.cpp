@@ -75,10 +75,9 @@ QLayout* frmType::MakeBottomRow()
 {
     auto* set = ui::MakeButton(this, "Command2", "Set TYPE", "Gives the chosen type to an item");
     auto* help = ui::MakeButton(this, "Command3", "TypeInfo", "Tells where the types are described");
-    auto* leave = ui::MakeButton(this, "Command1", "Exit", "Closes this panel");
+    auto* leave = MakeExit(this, "Command1");
     OnClick(*set, [this] { SendItemType(ui::Utf8(Box("typetext").text()), Context().generation, Outlet()); });
     OnClick(*help, [this] { ShowItemTypeHelp(Outlet()); });
-    OnClick(*leave, [this] { Context().panels.Unload(*this); });
 
     auto* row = new QHBoxLayout;
     row->addWidget(set);

@@ -7,6 +7,7 @@
 #include <QVBoxLayout>
 #include <array>
 
+#include "ui/box_fields.h"
 #include "ui/corner_row.h"
 #include "ui/parts.h"
 
@@ -17,21 +18,15 @@ namespace {
 constexpr int CoordinateDigits = 6;
 constexpr int ConfirmationColumns = 34;
 
-/// A box of the panel and the field that holds its text.
-struct BoxField {
-    std::string_view box;
-    std::string WipeState::*text;
-};
-
 // clang-format off
-constexpr std::array boxFields{
-    BoxField{"wmethod", &WipeState::wmethod},
-    BoxField{"x1",      &WipeState::x1},
-    BoxField{"y1",      &WipeState::y1},
-    BoxField{"x2",      &WipeState::x2},
-    BoxField{"y2",      &WipeState::y2},
-    BoxField{"x1true",  &WipeState::x1true},
-    BoxField{"y1true",  &WipeState::y1true},
+constexpr ui::BoxField<WipeState> boxFields[] = {
+    {"wmethod", &WipeState::wmethod},
+    {"x1",      &WipeState::x1},
+    {"y1",      &WipeState::y1},
+    {"x2",      &WipeState::x2},
+    {"y2",      &WipeState::y2},
+    {"x1true",  &WipeState::x1true},
+    {"y1true",  &WipeState::y1true},
 };
 
 constexpr std::array positionRows{
@@ -175,10 +170,9 @@ QLayout* frmWipe::MakeBottomRow()
 {
     auto* wipe = ui::MakeButton(this, "Command1", "WIPE", "Wipes by the chosen method");
     auto* about = ui::MakeButton(this, "Command4", "About");
-    auto* leave = ui::MakeButton(this, "Exitbutton", "Exit", "Closes this panel");
+    auto* leave = MakeExit(this, "Exitbutton");
     OnClick(*wipe, [this] { Step([this](WipeState& state) { Wipe(state, Outlet()); }); });
     OnClick(*about, [this] { Context().panels.ShowModal("frmAbout"); });
-    OnClick(*leave, [this] { Context().panels.Unload(*this); });
 
     auto* row = new QHBoxLayout;
     row->addWidget(wipe);
@@ -203,9 +197,7 @@ void frmWipe::Load()
 WipeState frmWipe::State() const
 {
     WipeState state;
-    for (const auto& field : boxFields) {
-        state.*field.text = ui::Utf8(Box(field.box).text());
-    }
+    ui::ReadBoxes(boxFields, *this, state);
     state.takesCoordinates = Box(cornerBoxes.front()).isEnabled();
     state.confirming = !Frame4->isHidden();
     return state;
@@ -213,13 +205,7 @@ WipeState frmWipe::State() const
 
 void frmWipe::Show(const WipeState& state)
 {
-    for (const auto& field : boxFields) {
-        auto&      box = Box(field.box);
-        const auto text = ui::Text(state.*field.text);
-        if (box.text() != text) {
-            box.setText(text);
-        }
-    }
+    ui::ShowBoxes(boxFields, *this, state);
     for (const auto box : cornerBoxes) {
         Box(box).setEnabled(state.takesCoordinates);
     }

@@ -22,6 +22,7 @@ struct WanderCommand {
 /// The buttons that set how an NPC moves about and what it follows.
 std::span<const WanderCommand> WanderCommands();
 
+/// The press of one of these buttons; a generation that is neither sends nothing, unless one text serves both.
 void SendWander(const WanderCommand& command, core::ServerGeneration generation, core::Outlet& outlet);
 
 /// The rectangle in which an NPC wanders, as it is typed: X and Y of one corner and of the other. Sent to the two

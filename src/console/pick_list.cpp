@@ -1,6 +1,5 @@
 #include "console/pick_list.h"
 
-#include <QAbstractItemView>
 #include <QCompleter>
 #include <QLineEdit>
 #include <QMouseEvent>

@@ -1,6 +1,5 @@
 #include "console/spawn_page.h"
 
-#include <QHBoxLayout>
 #include <QTabWidget>
 #include <QVBoxLayout>
 
@@ -86,7 +85,7 @@ void SpawnPage::AddStep(QGridLayout& layout, int row, const Spawner& spawner, co
         const auto value = box != nullptr ? ui::Utf8(box->text()) : std::string();
         SendSpawnStep(step, value, Host().Context().generation, Host().Outlet());
     });
-    if (step.NamesTheSpawned()) {
+    if (step.namesTheSpawned) {
         auto* help = ui::MakeButton(frame, spawner.helpButton, "?", "Tells where the item to spawn is found");
         help->setFixedWidth(help->sizeHint().height());
         Host().OnClick(*help, [this] { ShowSpawnHelp(Host().Context().generation, Host().Outlet()); });

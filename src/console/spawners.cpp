@@ -22,7 +22,7 @@ constexpr SpawnStep itemSteps[] = {
     {"cmdCreateDummy",   "1. Add Dummy Item",              "",                {"add 16 3a", "add spawner 0x163a"}},
     {"cmdInvisible",     "2. Set Dummy-Item to Invisible", "",                {"setvisible 3", "set visible 3"}},
     {"cmdRename",        "3. Rename Item",                 "txtItemName",     Rename},
-    {"cmdSetItemNumber", "4. Set Item to spawn:",          "txtItemNumber",   Section},
+    {"cmdSetItemNumber", "4. Set Item to spawn:",          "txtItemNumber",   Section, true},
     {"cmdMinSpawnTime",  "5. Min. Spawn Time:",            "txtMinSpawnTime", MinTime},
     {"cmdMaxSpawnTime",  "6. Max. Spawn Time:",            "txtMaxSpawnTime", MaxTime},
     {"Command3",         "7. Set Item to Spawner Type",    "",                Type61},
@@ -32,7 +32,7 @@ constexpr SpawnStep containerSteps[] = {
     // control                   caption                                     box                         words
     {"cmdAddCont",               "1. Add Container",                         "",                         NoCommand},
     {"cmdContainerName",         "2. Rename Item",                           "txtContainerName",         Rename},
-    {"cmdContainerItemNumber",   "3. Set Item to spawn",                     "txtContainerItemNumber",   Section},
+    {"cmdContainerItemNumber",   "3. Set Item to spawn",                     "txtContainerItemNumber",   Section, true},
     {"cmdMinContainerSpawnTime", "4. Min. Spawn Time:",                      "txtMinContainerSpawnTime", MinTime},
     {"cmdMaxContainerSpawnTime", "5. Max. Spawn Time:",                      "txtMaxContainerSpawnTime", MaxTime},
     {"cmdSetContainerSpawn",     "6. Set Container as Item Spawn Container", "",                         Type63},
@@ -42,7 +42,7 @@ constexpr SpawnStep lockedContainerSteps[] = {
     // control                    caption                                     box                          words
     {"cmdAddLockedCont",          "1. Add Container",                         "",                          NoCommand},
     {"cmdRenameLockedContainer",  "2. Rename Item",                           "txtLockedContainerName",    Rename},
-    {"cmdLockedContItem",         "3. Set Item to spawn:",                    "txtLockedContItem",         Section},
+    {"cmdLockedContItem",         "3. Set Item to spawn:",                    "txtLockedContItem",         Section, true},
     {"cmdMinLockedContSpawnTime", "4. Min. Spawn Time:",                      "txtMinLockedContSpawnTime", MinTime},
     {"cmdMaxLockedContSpawnTime", "5. Max. Spawn Time:",                      "txtMaxLockedContSpawnTime", MaxTime},
     {"cmdSetAsLockedContSpawner", "6. Set Container as Item Spawn Container", "",                          Type64},
@@ -52,7 +52,7 @@ constexpr SpawnStep nonlockableContainerSteps[] = {
     // control                 caption                                     box                       words
     {"cmdAddNonLockableCont",  "1. Add Container",                         "",                       NoCommand},
     {"cmdNonLockContName",     "2. Rename Item",                           "txtNonLockContName",     Rename},
-    {"cmdNonLockItemNum",      "3. Set Item to spawn:",                    "txtNonLockItemNum",      Section},
+    {"cmdNonLockItemNum",      "3. Set Item to spawn:",                    "txtNonLockItemNum",      Section, true},
     {"cmdMinNonLockSpawnTime", "4. Min. Spawn Time:",                      "txtMinNonLockSpawnTime", MinTime},
     {"cmdMaxNonLockSpawnTime", "5. Max. Spawn Time:",                      "txtMaxNonLockSpawnTime", MaxTime},
     {"cmdSetAsNonLockCont",    "6. Set Container as Item Spawn Container", "",                       Type65},

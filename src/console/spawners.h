@@ -20,10 +20,10 @@ struct SpawnStep {
     /// No words where the step opens the items panel on its containers.
     core::CommandWords words;
 
-    bool OpensContainers() const { return words.in09.empty(); }
-
     /// Whether the text of its box tells what is spawned.
-    bool NamesTheSpawned() const { return words.in070 == "setmorex "; }
+    bool namesTheSpawned = false;
+
+    bool OpensContainers() const { return words.in09.empty(); }
 };
 
 /// A wizard that makes a thing which the server refills by itself.

@@ -57,6 +57,7 @@ struct TravelCommand {
 
 std::span<const TravelCommand> TravelCommands();
 
+/// The press of one of these buttons: its words, and behind them the place as typed where it takes one.
 void SendTravelCommand(const TravelCommand& command, const TravelState& state, core::Outlet& outlet);
 
 } // namespace qf::console

@@ -4,6 +4,7 @@
 #include <QHBoxLayout>
 #include <QVBoxLayout>
 
+#include "ui/box_fields.h"
 #include "ui/parts.h"
 
 namespace qf::console {
@@ -12,19 +13,24 @@ namespace {
 
 constexpr int CoordinateDigits = 6;
 
-/// A box of the tab with its label and the field that holds its text.
-struct BoxField {
+/// A box of the tab with its label.
+struct LabelledBox {
     std::string_view box;
     std::string_view label;
     std::string_view caption;
-    std::string TravelState::*text;
 };
 
 // clang-format off
-constexpr std::array boxFields{
-    BoxField{"txtLocX", "lblLocX", "X", &TravelState::txtLocX},
-    BoxField{"txtLocY", "lblLocY", "Y", &TravelState::txtLocY},
-    BoxField{"txtLocZ", "lblLocZ", "Z", &TravelState::txtLocZ},
+constexpr LabelledBox labelledBoxes[] = {
+    {"txtLocX", "lblLocX", "X"},
+    {"txtLocY", "lblLocY", "Y"},
+    {"txtLocZ", "lblLocZ", "Z"},
+};
+
+constexpr ui::BoxField<TravelState> boxFields[] = {
+    {"txtLocX", &TravelState::txtLocX},
+    {"txtLocY", &TravelState::txtLocY},
+    {"txtLocZ", &TravelState::txtLocZ},
 };
 // clang-format on
 
@@ -94,13 +100,11 @@ QLayout* TravelPage::MakeLists(QWidget* parent)
 QLayout* TravelPage::MakeCoordinates(QWidget* parent)
 {
     auto* row = new QHBoxLayout;
-    for (std::size_t index = 0; index < boxFields.size(); ++index) {
-        const auto& field = boxFields[index];
-        auto*       box = ui::MakeTextBox(parent, field.box, CoordinateDigits);
+    for (const auto& [name, label, caption] : labelledBoxes) {
+        auto* box = ui::MakeTextBox(parent, name, CoordinateDigits);
         Host().OnFocus(*box, [box] { ui::SelectWhole(*box); });
-        row->addWidget(ui::MakeLabelFor(box, field.label, field.caption));
+        row->addWidget(ui::MakeLabelFor(box, label, caption));
         row->addWidget(box);
-        boxes_[index] = box;
     }
     row->addStretch(1);
     return row;
@@ -127,9 +131,7 @@ QGroupBox* TravelPage::MakeCommandFrame()
 TravelState TravelPage::State() const
 {
     TravelState state;
-    for (std::size_t index = 0; index < boxFields.size(); ++index) {
-        state.*boxFields[index].text = ui::Utf8(boxes_[index]->text());
-    }
+    ui::ReadBoxes(boxFields, *this, state);
     for (std::size_t index = 0; index < lists_.size(); ++index) {
         if (!lists_[index]->isHidden()) {
             state.shownGroup = static_cast<int>(index);
@@ -140,12 +142,7 @@ TravelState TravelPage::State() const
 
 void TravelPage::Show(const TravelState& state)
 {
-    for (std::size_t index = 0; index < boxFields.size(); ++index) {
-        const auto text = ui::Text(state.*boxFields[index].text);
-        if (boxes_[index]->text() != text) {
-            boxes_[index]->setText(text);
-        }
-    }
+    ui::ShowBoxes(boxFields, *this, state);
     for (std::size_t index = 0; index < lists_.size(); ++index) {
         lists_[index]->setHidden(static_cast<int>(index) != state.shownGroup);
     }

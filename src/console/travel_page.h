@@ -2,8 +2,6 @@
 
 #include <QGroupBox>
 #include <QLayout>
-#include <QLineEdit>
-#include <array>
 #include <functional>
 #include <vector>
 
@@ -30,8 +28,7 @@ class TravelPage final : public ConsolePage {
     /// Runs a step on the fields as they are shown and shows what it makes of them.
     void Step(const std::function<void(TravelState&)>& step);
 
-    std::array<QLineEdit*, 3> boxes_{};
-    std::vector<PickList*>    lists_;
+    std::vector<PickList*> lists_;
 };
 
 } // namespace qf::console

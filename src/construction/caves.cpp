@@ -137,7 +137,7 @@ void AddCave(const CavesState& state, core::ServerGeneration generation, core::U
              core::Outlet& outlet)
 {
     if (state.method < 0) {
-        outlet.Show(core::InformationBox("Please select an add method!"));
+        outlet.Show(core::InformationBox(std::string(NoMethodText)));
         return;
     }
     uniform.SeedFromClock();
@@ -146,12 +146,7 @@ void AddCave(const CavesState& state, core::ServerGeneration generation, core::U
     switch (state.method) {
     case RandomPointAndClick: SendPointAndClick(outlet, id); break;
     case RandomSingleItem: outlet.Send((state.repeat ? "radd " : "add ") + id); break;
-    default:
-        RunTrapped(outlet, InvalidLocationText, [&] {
-            const auto area = ToArea(state.area);
-            SendArea(outlet, generation, id, area, core::ToInteger32(state.custom));
-        });
-        break;
+    default: SendTypedArea(outlet, generation, id, state.area, state.custom); break;
     }
 }
 

@@ -2,7 +2,6 @@
 
 #include <algorithm>
 
-#include "core/number_rules.h"
 #include "core/tile_id.h"
 
 namespace qf::construction {
@@ -82,7 +81,7 @@ void AddCoast(const CoastlinesState& state, core::ServerGeneration generation, c
               core::Outlet& outlet)
 {
     if (state.method < 0) {
-        outlet.Show(core::InformationBox("Please select an add method!"));
+        outlet.Show(core::InformationBox(std::string(NoMethodText)));
         return;
     }
     const auto draws = Draw(uniform);
@@ -92,12 +91,7 @@ void AddCoast(const CoastlinesState& state, core::ServerGeneration generation, c
     switch (state.method) {
     case RandomPointAndClick: SendPointAndClick(outlet, id); break;
     case RandomSingleItem: outlet.Send("add " + id); break;
-    default:
-        RunTrapped(outlet, InvalidLocationText, [&] {
-            const auto area = ToArea(state.area);
-            SendArea(outlet, generation, id, area, core::ToInteger32(state.area.currentHeight));
-        });
-        break;
+    default: SendTypedArea(outlet, generation, id, state.area, state.area.currentHeight); break;
     }
 }
 

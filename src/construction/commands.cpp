@@ -6,10 +6,25 @@
 
 namespace qf::construction {
 
+namespace {
+
+std::int32_t Resolve(BoxEnd end, std::int32_t first, std::int32_t second)
+{
+    return core::Add32(end.corner == 1 ? first : second, end.offset);
+}
+
+} // namespace
+
 Area ToArea(const AreaTexts& texts)
 {
     return {core::ToInteger32(texts.x1), core::ToInteger32(texts.x2), core::ToInteger32(texts.y1),
             core::ToInteger32(texts.y2)};
+}
+
+Area StripOf(const Area& box, BoxEnd x1, BoxEnd x2, BoxEnd y1, BoxEnd y2)
+{
+    return {Resolve(x1, box.x1, box.x2), Resolve(x2, box.x1, box.x2), Resolve(y1, box.y1, box.y2),
+            Resolve(y2, box.y1, box.y2)};
 }
 
 void SendArea(core::Outlet& outlet, core::ServerGeneration generation, std::string_view id, const Area& area,
@@ -29,6 +44,15 @@ void SendArea(core::Outlet& outlet, core::ServerGeneration generation, std::stri
         command += core::ToText(number);
     }
     outlet.Send(command);
+}
+
+void SendTypedArea(core::Outlet& outlet, core::ServerGeneration generation, std::string_view id,
+                   const AreaTexts& corners, const std::string& height)
+{
+    RunTrapped(outlet, "Please provide a valid location, including height!", [&] {
+        const auto area = ToArea(corners);
+        SendArea(outlet, generation, id, area, core::ToInteger32(height));
+    });
 }
 
 void SendPointAndClick(core::Outlet& outlet, std::string_view id)

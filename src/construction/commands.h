@@ -10,8 +10,8 @@
 
 namespace qf::construction {
 
-/// What the panels of caves, coastlines and landscapes show where a box holds no number.
-inline constexpr std::string_view InvalidLocationText = "Please provide a valid location, including height!";
+/// What a panel shows where no way of adding is selected.
+inline constexpr std::string_view NoMethodText = "Please select an add method!";
 
 /// The ways of adding cave tiles and shore tiles, by index of their option.
 enum RandomTileMethod { RandomPointAndClick = 0, RandomCoordinates = 1, RandomSingleItem = 2 };
@@ -36,10 +36,23 @@ struct AreaTexts {
 /// The corners as whole tile numbers. Throws RuntimeError 13 or 6.
 Area ToArea(const AreaTexts& texts);
 
+/// One end of a strip of a box: the first or second corner's coordinate, moved by so many tiles.
+struct BoxEnd {
+    int corner;
+    int offset;
+};
+
+/// The strip of a box that lies between the given ends. Throws RuntimeError 6 where a number leaves 32 bits.
+Area StripOf(const Area& box, BoxEnd x1, BoxEnd x2, BoxEnd y1, BoxEnd y2);
+
 /// "<word> <id> <x1> <x2> <y1> <y2> <z>", the word by generation; nothing for a generation that is
 /// neither. An empty ID goes out as it is, between two blanks.
 void SendArea(core::Outlet& outlet, core::ServerGeneration generation, std::string_view id, const Area& area,
               std::int32_t z);
+
+/// Lays a tile over the corners and at the height that the boxes hold; a box without a number is told.
+void SendTypedArea(core::Outlet& outlet, core::ServerGeneration generation, std::string_view id,
+                   const AreaTexts& corners, const std::string& height);
 
 /// "tile <id>" in both generations: the server then asks for the corners in the client.
 void SendPointAndClick(core::Outlet& outlet, std::string_view id);

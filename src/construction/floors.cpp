@@ -7,19 +7,13 @@ namespace qf::construction {
 
 namespace {
 
-/// One end of a strip: the first or second corner's coordinate, moved by so many tiles.
-struct End {
-    int corner;
-    int offset;
-};
-
 /// One command of a bordered floor. No border tile means the centre of the main table.
 struct BorderStep {
     std::string_view FloorBorder::*tile;
-    End                            x1;
-    End                            x2;
-    End                            y1;
-    End                            y2;
+    BoxEnd                         x1;
+    BoxEnd                         x2;
+    BoxEnd                         y1;
+    BoxEnd                         y2;
 };
 
 // clang-format off
@@ -35,11 +29,6 @@ constexpr BorderStep borderSteps[] = {
     {&FloorBorder::edgeX2,     {2,  0}, {2,  0}, {1, +1}, {2, -1}},
 };
 // clang-format on
-
-std::int32_t Resolve(End end, std::int32_t first, std::int32_t second)
-{
-    return core::Add32(end.corner == 1 ? first : second, end.offset);
-}
 
 std::span<const FloorRow> RowsOf(int tab)
 {
@@ -78,8 +67,7 @@ void AddByCoordinates(const FloorsState& state, core::ServerGeneration generatio
         return;
     }
     for (const auto& step : borderSteps) {
-        const Area strip{Resolve(step.x1, area.x1, area.x2), Resolve(step.x2, area.x1, area.x2),
-                         Resolve(step.y1, area.y1, area.y2), Resolve(step.y2, area.y1, area.y2)};
+        const auto strip = StripOf(area, step.x1, step.x2, step.y1, step.y2);
         const auto id = step.tile == nullptr ? centre : core::TileIdText(border->*step.tile, state.tableForm);
         SendArea(outlet, generation, id, strip, z);
     }
@@ -120,7 +108,7 @@ void AddFloor(const FloorsState& state, core::ServerGeneration generation, core:
         return;
     }
     if (state.addMethod < 0) {
-        outlet.Show(core::InformationBox("Please select an add method!"));
+        outlet.Show(core::InformationBox(std::string(NoMethodText)));
         return;
     }
     if (state.addMethod == FloorPointAndClick) {
@@ -139,7 +127,7 @@ void AddFloorPiece(const FloorsState& state, int tab, int index, core::ServerGen
                    core::Outlet& outlet)
 {
     if (state.direction < 0) {
-        outlet.Show(core::InformationBox("Please select a direction first"));
+        outlet.Show(core::InformationBox(std::string(FloorDirectionFirstText)));
         return;
     }
     SendDirectAdd(outlet, generation, FloorTileId(tab, state.direction, index, state.tableForm));

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <string>
+#include <string_view>
 
 #include "construction/commands.h"
 #include "construction/floors_tables.h"
@@ -11,6 +12,9 @@ namespace qf::construction {
 
 /// The ways of adding a floor, by index of their option.
 enum FloorAddMethod { FloorPointAndClick = 0, FloorCoordinates = 1 };
+
+/// What is shown where a rug or a carpet is chosen, or one piece added, before a direction.
+inline constexpr std::string_view FloorDirectionFirstText = "Please select a direction first";
 
 /// The fields of the floors panel. Selections are indices, -1 where nothing is selected; boxes are texts.
 struct FloorsState {

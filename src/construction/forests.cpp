@@ -81,16 +81,18 @@ std::int32_t DrawPlace(core::UniformGenerator& uniform, std::int32_t low, std::i
     return core::RoundToInteger32(std::floor(uniform.Next() * (static_cast<double>(side) + 1) + low));
 }
 
+/// Whether the draws over a side all lead to 0. From 1 down to -1 only a draw of exactly 0 leads elsewhere.
+bool IsStill(std::int32_t low, std::int32_t side)
+{
+    return (low == 0 && (side == 0 || side == -1)) || (low == 1 && side == -2);
+}
+
 void ScatterTrees(Planter& planter, const Area& area, std::int32_t count, core::UniformGenerator& uniform)
 {
     const auto dx = core::Subtract32(area.x2, area.x1);
     const auto dy = core::Subtract32(area.y2, area.y1);
     const auto isOrigin = [](std::int32_t x, std::int32_t y) { return x == 0 && y == 0; };
-    // Where no draw leads away from the map's first tile, no tree can be planted.
-    const auto isStill = [](std::int32_t side) { return side == 0 || side == -1; };
-    if (isStill(dx) && isStill(dy) && isOrigin(area.x1, area.y1)) {
-        return;
-    }
+    const bool still = IsStill(area.x1, dx) && IsStill(area.y1, dy);
     for (std::int32_t i = 0; i <= count; ++i) {
         std::int32_t x = 0;
         std::int32_t y = 0;
@@ -98,6 +100,10 @@ void ScatterTrees(Planter& planter, const Area& area, std::int32_t count, core::
         do {
             x = DrawPlace(uniform, area.x1, dx);
             y = DrawPlace(uniform, area.y1, dy);
+            if (still && isOrigin(x, y)) {
+                // Every further draw would lead here again, so no tree can be planted.
+                return;
+            }
         } while (isOrigin(x, y));
         planter.Plant(x, y);
     }

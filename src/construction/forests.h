@@ -40,6 +40,8 @@ struct TreeIds {
     std::string canopy;
 };
 
+/// The tiles of an item of a tab. Both are empty where there is no such row, and under 0.70.x for a row that only
+/// 0.9x.x has.
 TreeIds ForestTree(int tab, int item, core::ServerGeneration tableForm);
 
 /// How many trees a density adds to a box whose sides are `dx` and `dy`, less one.

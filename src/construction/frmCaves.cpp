@@ -1,9 +1,6 @@
 #include "construction/frmCaves.h"
 
-#include <QHBoxLayout>
 #include <QVBoxLayout>
-
-#include "ui/parts.h"
 
 namespace qf::construction {
 

@@ -4,7 +4,7 @@
 #include <QTabWidget>
 
 #include "construction/caves.h"
-#include "construction/frmConstruction.h"
+#include "construction/construction_panel.h"
 #include "ui/option_array.h"
 
 namespace qf::construction {

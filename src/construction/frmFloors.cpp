@@ -1,6 +1,5 @@
 #include "construction/frmFloors.h"
 
-#include <QHBoxLayout>
 #include <QVBoxLayout>
 
 #include "ui/parts.h"
@@ -109,7 +108,7 @@ void frmFloors::TypeChosen()
 void frmFloors::RugOrCarpetChosen()
 {
     if (optDirection.Selected() < 0) {
-        Outlet().Show(core::InformationBox("Please select a direction first"));
+        Outlet().Show(core::InformationBox(std::string(FloorDirectionFirstText)));
         return;
     }
     ShowChosenTile();

@@ -3,8 +3,8 @@
 #include <QCheckBox>
 #include <QTabWidget>
 
+#include "construction/construction_panel.h"
 #include "construction/floors.h"
-#include "construction/frmConstruction.h"
 
 namespace qf::construction {
 

@@ -5,8 +5,8 @@
 #include <array>
 #include <memory>
 
+#include "construction/construction_panel.h"
 #include "construction/forests.h"
-#include "construction/frmConstruction.h"
 #include "ui/option_array.h"
 
 namespace qf::construction {

@@ -1,10 +1,5 @@
 #include "construction/frmLandscapes.h"
 
-#include <QHBoxLayout>
-#include <QVBoxLayout>
-
-#include "ui/parts.h"
-
 namespace qf::construction {
 
 namespace {

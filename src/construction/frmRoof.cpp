@@ -1,7 +1,6 @@
 #include "construction/frmRoof.h"
 
 #include <QHBoxLayout>
-#include <QVBoxLayout>
 #include <array>
 
 #include "ui/parts.h"

@@ -2,7 +2,7 @@
 
 #include <QTabWidget>
 
-#include "construction/frmConstruction.h"
+#include "construction/construction_panel.h"
 #include "construction/roof.h"
 #include "ui/option_array.h"
 

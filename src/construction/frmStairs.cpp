@@ -173,7 +173,7 @@ void frmStairs::ShowChosenTile(bool needsMaterial)
     }
     const auto state = State();
     if (needsMaterial && state.material < 0) {
-        Outlet().Show(core::InformationBox("You must select a valid material!"));
+        Outlet().Show(core::InformationBox(std::string(NoMaterialText)));
         return;
     }
     if (const auto tile = ShownStep(state)) {

@@ -2,7 +2,7 @@
 
 #include <QCheckBox>
 
-#include "construction/frmConstruction.h"
+#include "construction/construction_panel.h"
 #include "construction/stairs.h"
 #include "ui/option_array.h"
 

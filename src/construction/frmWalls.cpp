@@ -1,6 +1,5 @@
 #include "construction/frmWalls.h"
 
-#include <QHBoxLayout>
 #include <QVBoxLayout>
 
 #include "ui/parts.h"

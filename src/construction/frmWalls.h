@@ -1,6 +1,6 @@
 #pragma once
 
-#include "construction/frmConstruction.h"
+#include "construction/construction_panel.h"
 #include "construction/walls.h"
 #include "ui/option_array.h"
 

@@ -6,6 +6,12 @@
 
 namespace qf::construction {
 
+namespace {
+
+constexpr int UnitsPerStorey = 20;
+
+} // namespace
+
 std::string BuildHeight(int storey, std::string_view currentHeight)
 {
     return core::ToText(storey * static_cast<double>(UnitsPerStorey) + core::ToDouble(currentHeight));

@@ -8,12 +8,11 @@
 
 namespace qf::construction {
 
-inline constexpr int UnitsPerStorey = 20;
-
 inline constexpr std::string_view InvalidHeightText = "Not a valid height!";
 
 /// The build Z of a storey (0, 1, 2) above the current height, both in height units, as text: 20 a storey
-/// and the number in the box. Throws RuntimeError 13 where the box holds no number.
+/// and the number in the box. Throws RuntimeError 13 where the box holds no number, 6 where that number is out of
+/// range.
 std::string BuildHeight(int storey, std::string_view currentHeight);
 
 /// What a lone "-" in the current height means: a number that is still being typed, or no number.

@@ -2,7 +2,6 @@
 
 #include <algorithm>
 
-#include "core/number_rules.h"
 #include "core/tile_id.h"
 
 namespace qf::construction {
@@ -39,18 +38,15 @@ std::string LandscapeTileId(int type, core::ServerGeneration tableForm)
 void AddLandscape(const LandscapesState& state, core::ServerGeneration generation, core::Outlet& outlet)
 {
     if (state.method < 0) {
-        outlet.Show(core::InformationBox("Please select an add method!"));
+        outlet.Show(core::InformationBox(std::string(NoMethodText)));
         return;
     }
     const auto id = LandscapeTileId(state.type, state.tableForm);
     if (state.method == LandscapePointAndClick) {
         SendPointAndClick(outlet, id);
-        return;
+    } else {
+        SendTypedArea(outlet, generation, id, state.area, state.area.currentHeight);
     }
-    RunTrapped(outlet, InvalidLocationText, [&] {
-        const auto area = ToArea(state.area);
-        SendArea(outlet, generation, id, area, core::ToInteger32(state.area.currentHeight));
-    });
 }
 
 void AddLandscapePiece(const LandscapesState& state, int type, core::ServerGeneration generation, core::Outlet& outlet)

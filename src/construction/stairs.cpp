@@ -11,8 +11,6 @@ namespace {
 constexpr std::int32_t StairStep = 5;
 constexpr int          LeastRise = 10;
 
-constexpr std::string_view NoMaterialText = "You must select a valid material!";
-
 const StairRow& RowOf(int material)
 {
     return StairRows()[static_cast<std::size_t>(material)];

@@ -3,6 +3,7 @@
 #include <cstdint>
 #include <optional>
 #include <string>
+#include <string_view>
 
 #include "construction/commands.h"
 #include "construction/stairs_tables.h"
@@ -14,6 +15,9 @@ namespace qf::construction {
 /// The directions to which stairs descend, by index of their option: the rows of a flight follow one another
 /// with falling Y, falling X, rising Y or rising X.
 enum StairDirection { StairsNorth = 0, StairsWest = 1, StairsSouth = 2, StairsEast = 3 };
+
+/// What is shown where a material is needed and none is selected.
+inline constexpr std::string_view NoMaterialText = "You must select a valid material!";
 
 /// The fields of the stairs panel. Selections are indices, -1 where nothing is selected; boxes are texts.
 struct StairsState {

@@ -18,11 +18,6 @@ void Tell(core::Outlet& outlet, std::string_view text)
     outlet.Show(core::InformationBox(std::string(text)));
 }
 
-std::int32_t Resolve(WallEnd end, std::int32_t first, std::int32_t second)
-{
-    return core::Add32(end.corner == 1 ? first : second, end.offset);
-}
-
 const WallTiles& PieceOf(const WallRow& row, WallPiece piece)
 {
     switch (piece) {
@@ -104,13 +99,11 @@ void AddLine(const WallsState& state, std::int32_t x1, std::int32_t y1, std::int
 void AddBox(const WallsState& state, std::int32_t x1, std::int32_t y1, std::int32_t z,
             core::ServerGeneration generation, core::Outlet& outlet)
 {
-    const auto  x2 = core::ToInteger32(state.area.x2);
-    const auto  y2 = core::ToInteger32(state.area.y2);
+    const Area  box{x1, core::ToInteger32(state.area.x2), y1, core::ToInteger32(state.area.y2)};
     const auto& row = WallRows()[static_cast<std::size_t>(state.type)];
     for (const auto& step : BoxSteps(state.type)) {
         const auto digits = PieceOf(row, step.piece).Of(state.height).In(state.tableForm);
-        const Area strip{Resolve(step.x1, x1, x2), Resolve(step.x2, x1, x2), Resolve(step.y1, y1, y2),
-                         Resolve(step.y2, y1, y2)};
+        const auto strip = StripOf(box, step.x1, step.x2, step.y1, step.y2);
         SendArea(outlet, generation, core::TileIdText(digits, state.tableForm), strip, z);
     }
 }

@@ -3,6 +3,7 @@
 #include <span>
 #include <string_view>
 
+#include "construction/commands.h"
 #include "core/generation.h"
 
 namespace qf::construction {
@@ -45,19 +46,13 @@ std::span<const WallRow> WallRows();
 /// The tiles of a box that a step lays.
 enum class WallPiece { NorthSouth, EastWest, Post, Corner };
 
-/// One end of a strip of a box: the first or second corner's coordinate, moved by so many tiles.
-struct WallEnd {
-    int corner;
-    int offset;
-};
-
 /// One command of a walled box.
 struct WallStep {
     WallPiece piece;
-    WallEnd   x1;
-    WallEnd   x2;
-    WallEnd   y1;
-    WallEnd   y2;
+    BoxEnd    x1;
+    BoxEnd    x2;
+    BoxEnd    y1;
+    BoxEnd    y2;
 };
 
 /// The commands of a box of a wall type, in their order.

@@ -104,9 +104,8 @@ QWidget* frmClothing::MakePicture()
 QLayout* frmClothing::MakeBottomRow()
 {
     auto* dye = ui::MakeButton(this, "cmdDyeVat", "Dye", "Opens the colours with which an item can be dyed");
-    auto* leave = ui::MakeButton(this, "cmdReturn", "Exit", "Closes this panel");
+    auto* leave = MakeExit(this, "cmdReturn");
     OnClick(*dye, [this] { Context().panels.Show("frmDye"); });
-    OnClick(*leave, [this] { Context().panels.Unload(*this); });
 
     auto* row = new QHBoxLayout;
     row->addWidget(dye);

@@ -232,9 +232,8 @@ QWidget* frmDye::MakeColours()
 QLayout* frmDye::MakeBottomRow()
 {
     auto* help = ui::MakeButton(this, "Command1", "Help!", "Says how an item is dyed");
-    auto* leave = ui::MakeButton(this, "cmdExit", "Exit", "Closes this panel");
+    auto* leave = MakeExit(this, "cmdExit");
     OnClick(*help, [this] { ShowDyeHelp(Outlet()); });
-    OnClick(*leave, [this] { Context().panels.Unload(*this); });
 
     auto* row = new QHBoxLayout;
     row->addWidget(help);

@@ -124,10 +124,9 @@ void frmItemExplorer::MakeUpperRow()
 
     cmdRemove = ui::MakeButton(this, "cmdRemove", "Remove Item", "Removes the item that you then target");
     cmdWipe = ui::MakeButton(this, "cmdWipe", "Wipe", "Opens the wipe panel");
-    cmdExit = ui::MakeButton(this, "cmdExit", "EXIT", "Leads back to the main panel");
+    cmdExit = MakeExit(this, "cmdExit", "Leads back to the main panel", "EXIT");
     OnClick(*cmdRemove, [this] { RemoveItem(Context().generation, Outlet()); });
     OnClick(*cmdWipe, [this] { Context().panels.Show("frmWipe"); });
-    OnClick(*cmdExit, [this] { Context().panels.Unload(*this); });
 
     const int top = menuBar_->height() + Scaled(Margin);
     const int height = Scaled(RowHeight);

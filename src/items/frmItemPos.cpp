@@ -24,13 +24,12 @@ frmItemPos::frmItemPos(ui::AppContext& context) : Panel(context, "frmItemPos")
     auto* bottom = new QHBoxLayout;
     for (const auto& row : PlainButtons()) {
         auto* button = ui::MakeButton(this, row.name, row.caption);
-        button->setMinimumWidth(button->sizeHint().width() + fontMetrics().height());
+        ui::GiveRoom(*button);
         OnClick(*button, [this, &row] { SendWords(row.words, {}, Context().generation, Outlet()); });
         bottom->addWidget(button);
     }
     bottom->addStretch(1);
-    auto* leave = ui::MakeButton(this, "Command1", "Exit", "Closes this panel");
-    OnClick(*leave, [this] { Context().panels.Unload(*this); });
+    auto* leave = MakeExit(this, "Command1");
     bottom->addWidget(leave);
 
     auto* all = new QVBoxLayout(this);

@@ -285,8 +285,7 @@ QLayout* frmItems::MakeBottomRow()
             row->addWidget(MakeStep(step));
         }
     }
-    auto* leave = ui::MakeButton(this, "cmdReturn", "Exit", "Back to the main panel");
-    OnClick(*leave, [this] { Context().panels.Unload(*this); });
+    auto* leave = MakeExit(this, "cmdReturn", "Back to the main panel");
     row->addWidget(leave);
     return row;
 }

@@ -22,8 +22,7 @@ frmLightSource::frmLightSource(ui::AppContext& context) : Panel(context, "frmLig
 
     auto* format = ui::MakeLabel(this, "lblFormat", "Format: Direction, Degrees, Radius of Light");
     auto* groups = MakeGroups();
-    auto* leave = ui::MakeButton(this, "Command1", "EXIT", "Closes this panel");
-    OnClick(*leave, [this] { Context().panels.Unload(*this); });
+    auto* leave = MakeExit(this, "Command1", "Closes this panel", "EXIT");
     auto* bottom = new QHBoxLayout;
     bottom->addStretch(1);
     bottom->addWidget(leave);
@@ -61,7 +60,7 @@ QGroupBox* frmLightSource::MakeGroup(std::span<const LightButton> rows)
     for (const auto& row : rows) {
         const auto hint = "Direction value " + std::to_string(LightValue(row.index));
         auto* button = ui::MakeButton(frame, ui::Utf8(ui::MemberName("cmdLightSource", row.index)), row.caption, hint);
-        button->setMinimumWidth(button->sizeHint().width() + fontMetrics().height());
+        ui::GiveRoom(*button);
         OnClick(*button, [this, index = row.index] { SendLight(index, Context().generation, Outlet()); });
         layout->addWidget(button, place % perColumn, place / perColumn);
         ++place;

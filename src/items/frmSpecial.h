@@ -4,7 +4,7 @@
 #include <memory>
 #include <vector>
 
-#include "construction/frmConstruction.h"
+#include "construction/construction_panel.h"
 #include "items/special.h"
 
 namespace qf::items {

@@ -26,8 +26,12 @@ struct SignPage {
     int first;
     int count;
 };
+
+/// The signs of a page from 0.
 SignPage SignsOnPage(int page);
-int      PageOfSign(int sign);
+
+/// The page on which a sign lies; signs are counted through all pages.
+int PageOfSign(int sign);
 
 /// The fields of the items panel.
 struct ItemsState {

@@ -51,11 +51,10 @@ AppContext::AppContext(Environment& environmentOfRun, std::span<const PanelEntry
 
 AppContext::~AppContext() = default;
 
-const client::PlayerLocation& AppContext::FetchLocation()
+client::PlayerLocation AppContext::FetchLocation()
 {
     const auto calibration = core::ToInteger32(environment.store.Read(core::section::Configuration, "Calibration"));
-    locationResult = client::GetPlayerLocation(environment.platform, calibration, settings.UsingClassicUO);
-    return locationResult;
+    return client::GetPlayerLocation(environment.platform, calibration, settings.UsingClassicUO);
 }
 
 void AppContext::ShowCalibrationNag()

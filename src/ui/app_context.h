@@ -29,7 +29,7 @@ struct ExplorerModes {
     bool tile = false;
 };
 
-/// What all panels share during one run. Made by `Main` and passed by reference; there is no other
+/// What all panels share during one run. `Application` holds it, and it is passed by reference; there is no other
 /// shared state.
 class AppContext {
   public:
@@ -44,7 +44,6 @@ class AppContext {
     std::string            productTitle;
     bool                   worldLoaded = false;
     SharedArea             sharedArea;
-    client::PlayerLocation locationResult;
     world::Database*       database = nullptr;
     core::FileNumbers      fileNumbers;
     gamedata::HueTable     hues;
@@ -58,9 +57,9 @@ class AppContext {
     /// Where handlers send their effects: commands go through `SendCommand`, boxes to the user.
     core::Outlet& Outlet() { return *outlet_; }
 
-    /// Reads the stored calibration, asks for the player's place and keeps the answer in `locationResult`.
+    /// Reads the stored calibration and asks for the player's place.
     /// Throws RuntimeError 13 where no calibration was ever stored.
-    const client::PlayerLocation& FetchLocation();
+    client::PlayerLocation FetchLocation();
 
     /// The message that asks for a calibration.
     void ShowCalibrationNag();

@@ -4,7 +4,6 @@
 #include <functional>
 #include <string>
 #include <string_view>
-#include <vector>
 
 #include "client/platform.h"
 #include "core/message.h"
@@ -52,7 +51,8 @@ class Shell {
 
     /// Makes a folder, in the program's form of a path, the working folder of the whole process, which it stays.
     /// Where the system has drives, the folder's first letter is made the current one before.
-    /// Throws RuntimeError 68 where there is no such drive, 76 where there is no such folder.
+    /// Throws RuntimeError 5 where the path is empty and the system has drives, 68 where there is no such drive, 76
+    /// where there is no such folder.
     virtual void EnterFolder(std::string_view folder) = 0;
 
     /// Enters the folder and starts a program in it, both in the program's form of a path.

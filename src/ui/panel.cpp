@@ -203,6 +203,13 @@ void Panel::SetDefault(QPushButton& button)
     defaultButton_ = &button;
 }
 
+QPushButton* Panel::MakeExit(QWidget* parent, std::string_view name, std::string_view toolTip, std::string_view caption)
+{
+    auto* leave = MakeButton(parent, name, caption, toolTip);
+    OnClick(*leave, [this] { context_.panels.Unload(*this); });
+    return leave;
+}
+
 void Panel::AddPositionControl(const PositionRow& row)
 {
     auto* control = findChild<QWidget*>(Text(row.control));

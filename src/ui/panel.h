@@ -105,6 +105,10 @@ class Panel : public QWidget {
     /// Makes a button the one that Enter presses where the focus is on no other one, and where the focus is first.
     void SetDefault(QPushButton& button);
 
+    /// The button that leaves the panel, which is unloaded.
+    QPushButton* MakeExit(QWidget* parent, std::string_view name, std::string_view toolTip = "Closes this panel",
+                          std::string_view caption = "Exit");
+
     /// Makes a control fill boxes from the player's place; the controls named by the row are there already.
     void AddPositionControl(const PositionRow& row);
 

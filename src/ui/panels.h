@@ -23,9 +23,6 @@ class Panels {
     Panels(AppContext& context, std::span<const PanelEntry> list);
     ~Panels();
 
-    /// Every panel that the program has, in the order of its list.
-    std::span<const PanelEntry> List() const { return list_; }
-
     /// Whether the program has such a panel.
     bool Has(std::string_view name) const;
 

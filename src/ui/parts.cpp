@@ -91,6 +91,11 @@ QPushButton* MakeButton(QWidget* parent, std::string_view name, std::string_view
     return button;
 }
 
+void GiveRoom(QPushButton& button)
+{
+    button.setMinimumWidth(button.sizeHint().width() + button.fontMetrics().height());
+}
+
 QToolButton* MakeAddButton(QWidget* parent, const QString& name, std::string_view what, std::string_view caption)
 {
     auto* button = new AddButton(parent);

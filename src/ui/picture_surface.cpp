@@ -68,9 +68,4 @@ QWidget* MakePicturePlace(QWidget* parent, PictureSurface& picture)
     return place;
 }
 
-QImage ToImage(const core::PixelSurface& surface)
-{
-    return View(surface).copy();
-}
-
 } // namespace qf::ui

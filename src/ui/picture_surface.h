@@ -43,7 +43,4 @@ class PictureSurface : public QWidget {
 /// around it moves. The place is sunken and white.
 QWidget* MakePicturePlace(QWidget* parent, PictureSurface& picture);
 
-/// The pixels of a surface as an image of its own.
-QImage ToImage(const core::PixelSurface& surface);
-
 } // namespace qf::ui

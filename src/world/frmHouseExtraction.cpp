@@ -7,6 +7,7 @@
 #include <QVBoxLayout>
 #include <array>
 
+#include "ui/box_fields.h"
 #include "ui/parts.h"
 
 namespace qf::world {
@@ -17,24 +18,18 @@ constexpr int CoordinateDigits = 6;
 constexpr int NumberDigits = 4;
 constexpr int RowsInSight = 12;
 
-/// A box of the panel and the field that holds its text.
-struct BoxField {
-    std::string_view box;
-    std::string ExtractionState::*text;
-};
-
 // clang-format off
-constexpr std::array boxFields{
-    BoxField{"txtX",           &ExtractionState::txtX},
-    BoxField{"txtY",           &ExtractionState::txtY},
-    BoxField{"txtZ",           &ExtractionState::txtZ},
-    BoxField{"txtX2",          &ExtractionState::txtX2},
-    BoxField{"txtY2",          &ExtractionState::txtY2},
-    BoxField{"txtZ2",          &ExtractionState::txtZ2},
-    BoxField{"txtWorld",       &ExtractionState::txtWorld},
-    BoxField{"txtInstance",    &ExtractionState::txtInstance},
-    BoxField{"txtName",        &ExtractionState::txtName},
-    BoxField{"txtDescription", &ExtractionState::txtDescription},
+constexpr ui::BoxField<ExtractionState> boxFields[] = {
+    {"txtX",           &ExtractionState::txtX},
+    {"txtY",           &ExtractionState::txtY},
+    {"txtZ",           &ExtractionState::txtZ},
+    {"txtX2",          &ExtractionState::txtX2},
+    {"txtY2",          &ExtractionState::txtY2},
+    {"txtZ2",          &ExtractionState::txtZ2},
+    {"txtWorld",       &ExtractionState::txtWorld},
+    {"txtInstance",    &ExtractionState::txtInstance},
+    {"txtName",        &ExtractionState::txtName},
+    {"txtDescription", &ExtractionState::txtDescription},
 };
 
 constexpr std::array positionRows{
@@ -154,12 +149,11 @@ QLayout* frmHouseExtraction::MakeBottomRow()
                                       "Writes the items between the corners into a template");
     cmdBuildTemplate->setEnabled(false);
     auto* help = ui::MakeButton(this, "Command1", "HELP!");
-    auto* leave = ui::MakeButton(this, "cmdReturn", "Exit", "Closes this panel");
+    auto* leave = MakeExit(this, "cmdReturn");
     OnClick(*cmdBuildTemplate, [this] {
         WriteOptimizedTemplate(State(), Context().environment.programFolder, *Context().database, Outlet());
     });
     OnClick(*help, [this] { ShowExtractionHelp(Outlet()); });
-    OnClick(*leave, [this] { Context().panels.Unload(*this); });
 
     auto* row = new QHBoxLayout;
     row->addWidget(cmdBuildTemplate);
@@ -179,9 +173,7 @@ void frmHouseExtraction::Load()
 ExtractionState frmHouseExtraction::State() const
 {
     ExtractionState state;
-    for (const auto& field : boxFields) {
-        state.*field.text = ui::Utf8(Box(field.box).text());
-    }
+    ui::ReadBoxes(boxFields, *this, state);
     return state;
 }
 

@@ -115,10 +115,9 @@ QLayout* frmHouseTemplates::MakeBottomRow()
 {
     auto* add = ui::MakeButton(this, "cmdAddHouse", "Add House", "Builds the chosen house at the build point");
     auto* help = ui::MakeButton(this, "Command1", "HELP!");
-    auto* leave = ui::MakeButton(this, "cmdReturn", "Exit", "Returns to the main panel");
+    auto* leave = MakeExit(this, "cmdReturn", "Returns to the main panel");
     OnClick(*add, [this] { AddHouse(); });
     OnClick(*help, [this] { Outlet().Show(core::PlainBox(std::string(HelpText))); });
-    OnClick(*leave, [this] { Context().panels.Unload(*this); });
 
     lblHouseTemplate = ui::MakeLabel(this, "lblHouseTemplate", "Sending Template to Client...");
     lblHouseTemplate->setAlignment(Qt::AlignCenter);

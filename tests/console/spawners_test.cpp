@@ -198,7 +198,7 @@ TEST(Spawners, OneStepOfEachWizardNamesWhatIsSpawned)
     std::vector<std::string_view> controls;
     for (const auto& spawner : Spawners()) {
         for (const auto& step : spawner.steps) {
-            if (step.NamesTheSpawned()) {
+            if (step.namesTheSpawned) {
                 controls.push_back(step.control);
             }
         }

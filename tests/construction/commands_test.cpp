@@ -71,6 +71,33 @@ TEST(ToArea, RoundsAndRefusesAsEveryBox)
     EXPECT_RUNTIME_ERROR(6, ToArea({"1", "1", "1", "2147483648", ""}));
 }
 
+TEST(StripOf, MovesEachEndFromItsOwnCorner)
+{
+    const auto strip = StripOf({10, 20, 30, 40}, {1, -1}, {2, 0}, {2, 2}, {1, 3});
+    EXPECT_EQ(strip.x1, 9);
+    EXPECT_EQ(strip.x2, 20);
+    EXPECT_EQ(strip.y1, 42);
+    EXPECT_EQ(strip.y2, 33);
+    EXPECT_RUNTIME_ERROR(6, StripOf({0, 0, 0, 2147483647}, {1, 0}, {2, 0}, {1, 0}, {2, 1}));
+}
+
+TEST(TypedArea, TakesTheCornersBeforeTheHeight)
+{
+    const auto lines = [](const AreaTexts& corners, const std::string& height) {
+        test::RecordingOutlet outlet;
+        SendTypedArea(outlet, Generation09, "0x04a9", corners, height);
+        return outlet.Lines();
+    };
+    const Lines missing{"box 64 [Dobrin's Quernfield 20250 ] Please provide a valid location, including height!"};
+    const Lines tooLarge{"box 16 [Dobrin's Quernfield 20250 ] 6: Overflow"};
+    EXPECT_EQ(lines({"1", "3", "2", "4", "ignored"}, "5"), Lines{"send tile 0x04a9 1 2 3 4 5"});
+    EXPECT_EQ(lines({"1", "3", "2", "4", "5"}, ""), missing);
+    EXPECT_EQ(lines({"1", "3", "3000000000", "", ""}, ""), tooLarge);
+    EXPECT_EQ(lines({"1", "", "2", "3000000000", ""}, "3000000000"), missing);
+    EXPECT_EQ(lines({"1", "3", "2", "3000000000", ""}, ""), tooLarge);
+    EXPECT_EQ(lines({"1", "3", "2", "4", ""}, "3000000000"), tooLarge);
+}
+
 TEST(RunTrapped, TellsATypeErrorInThePanelsWords)
 {
     test::RecordingOutlet outlet;

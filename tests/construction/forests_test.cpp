@@ -123,10 +123,35 @@ TEST(Forests, OnlyTheFirstTileOfTheMapCountsAsTaken)
     EXPECT_EQ(Add(state, {0.3, 0.3, 0.3, 0.3, 0.0, 0.3, 0.1, 0.2, 0.3, 0.3}).lines,
               (Lines{"send tile 0x0d40 1 1 1 1 0", "send tile 0x0d40 1 1 1 1 0", "send tile 0x0d40 0 0 1 1 0",
                      "send tile 0x0d40 1 1 1 1 0"}));
-    for (const auto* side : {"0", "-1"}) {
-        state.area = {"0", "0", side, "0", "0"};
-        EXPECT_EQ(Add(state).lines, Lines{});
+}
+
+TEST(Forests, ABoxWhoseDrawsAllLeadToTheFirstTileGetsNoTree)
+{
+    struct Side {
+        const char* low;
+        const char* high;
+    };
+    constexpr Side sides[] = {{"0", "0"}, {"0", "-1"}, {"1", "-1"}};
+    for (const int density : {ForestFew, ForestSparse}) {
+        auto state = Forest(ForestBox, density, -1, 2, 0);
+        for (const auto& x : sides) {
+            for (const auto& y : sides) {
+                SCOPED_TRACE(std::string(x.low) + " " + x.high + ", " + y.low + " " + y.high);
+                state.area = {x.low, y.low, x.high, y.high, "0"};
+                EXPECT_EQ(Add(state).lines, Lines{});
+            }
+        }
     }
+}
+
+TEST(Forests, FromOneDownToMinusOneADrawOfExactlyZeroStaysAtOne)
+{
+    auto state = Forest(ForestBox, ForestFew, -1, 2, 0);
+    state.area = {"1", "0", "-1", "0", "0"};
+    EXPECT_EQ(Add(state, {0.0, 0.5}).lines, Lines{"send tile 0x0d40 1 1 0 0 0"});
+    // With another row beside it the box is drawn again.
+    state.area = {"1", "0", "-1", "1", "0"};
+    EXPECT_EQ(Add(state, {0.5, 0.1, 0.5, 0.6}).lines, Lines{"send tile 0x0d40 0 0 1 1 0"});
 }
 
 TEST(Forests, ASolidBoxIsTheListsEntryWhateverTheSource)

@@ -1,8 +1,8 @@
 #pragma once
 
-#include <QBoxLayout>
 #include <QGridLayout>
 #include <QGroupBox>
+#include <QLayout>
 #include <initializer_list>
 #include <span>
 #include <string>
@@ -89,7 +89,7 @@ class ConstructionPanel : public ui::Panel {
     /// "Coordinates": a row of X, Y and position button for each corner.
     QGroupBox* MakeCoordinateFrame();
 
-    /// "Height": the base height with its button, the storeys of `optHeight` and the custom height.
+    /// "Height": the base height with its button, the options of `storeys` and the custom height.
     QGroupBox* MakeHeightFrame(ui::OptionArray& storeys);
 
     /// "Height" with the base height alone.

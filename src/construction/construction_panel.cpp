@@ -1,4 +1,4 @@
-#include "construction/frmConstruction.h"
+#include "construction/construction_panel.h"
 
 #include <QHBoxLayout>
 #include <QVBoxLayout>
@@ -251,8 +251,7 @@ QLayout* ConstructionPanel::MakeBottomRow(std::span<const CommandButton> buttons
             row->addWidget(made);
         }
     }
-    auto* leave = ui::MakeButton(this, "cmdReturn", "Exit", "Back to the main panel");
-    OnClick(*leave, [this] { Context().panels.Unload(*this); });
+    auto* leave = MakeExit(this, "cmdReturn", "Back to the main panel");
     row->addWidget(leave);
     return row;
 }
