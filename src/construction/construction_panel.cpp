@@ -457,7 +457,7 @@ void ConstructionPanel::Step(const ChainStep& step)
         neighbour->SetArea(Area());
     }
     if (const auto moved = step.moves.empty() ? step.to : step.moves; panels.Has(moved)) {
-        panels.Touch(moved).move(pos());
+        panels.Touch(moved).PlaceFrame(pos());
     }
     hide();
     panels.Show(step.to);

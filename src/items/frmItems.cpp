@@ -303,7 +303,7 @@ QPushButton* frmItems::MakeStep(const construction::ChainStep& step)
 {
     auto* button = ui::MakeButton(this, step.button, step.caption);
     OnClick(*button, [this, &step] {
-        Context().panels.Touch(step.to).move(pos());
+        Context().panels.Touch(step.to).PlaceFrame(pos());
         hide();
         Context().panels.Show(step.to);
     });

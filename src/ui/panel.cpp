@@ -5,6 +5,7 @@
 #include <QKeyEvent>
 #include <QLabel>
 #include <QMouseEvent>
+#include <QWindow>
 #include <utility>
 
 #include "core/number_rules.h"
@@ -49,10 +50,8 @@ void Panel::SetStayOnTop(bool onTop)
     }
     topmost_ = onTop;
     const bool wasShown = isVisible();
-    const auto place = pos();
     setWindowFlag(Qt::WindowStaysOnTopHint, onTop);
     if (wasShown) {
-        move(place);
         show();
     }
 }
@@ -69,7 +68,22 @@ int Panel::TopTwips() const
 
 void Panel::MoveToTwips(int left, int top)
 {
-    move(ToPixels(left), ToPixels(top));
+    PlaceFrame({ToPixels(left), ToPixels(top)});
+}
+
+void Panel::PlaceFrame(const QPoint& corner)
+{
+    place_ = corner;
+    move(corner);
+}
+
+void Panel::setVisible(bool visible)
+{
+    if (visible && !isVisible() && place_ && isWindow()) {
+        winId();
+        windowHandle()->installEventFilter(this);
+    }
+    QWidget::setVisible(visible);
 }
 
 bool Panel::Invoke(const Handlers& handlers, QWidget& control)
@@ -289,6 +303,9 @@ void Panel::showEvent(QShowEvent* event)
 void Panel::hideEvent(QHideEvent* event)
 {
     QWidget::hideEvent(event);
+    if (!event->spontaneous()) {
+        place_ = pos();
+    }
     if (!event->spontaneous() && isModal()) {
         setWindowModality(Qt::NonModal);
         RunAfterModal();
@@ -297,6 +314,11 @@ void Panel::hideEvent(QHideEvent* event)
 
 bool Panel::eventFilter(QObject* object, QEvent* event)
 {
+    if (object == windowHandle() && event->type() == QEvent::Show && place_) {
+        // As long as no window manager has framed the window, X11 takes a widget's place for that of what is within the
+        // frame. Only the window itself can say that the frame is meant, and only at the last moment.
+        windowHandle()->setFramePosition(*place_);
+    }
     auto* control = qobject_cast<QWidget*>(object);
     if (control == nullptr || !control->isEnabled()) {
         return QWidget::eventFilter(object, event);

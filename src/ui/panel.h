@@ -6,11 +6,13 @@
 #include <QCheckBox>
 #include <QComboBox>
 #include <QLineEdit>
+#include <QPoint>
 #include <QPushButton>
 #include <QTimer>
 #include <QWidget>
 #include <functional>
 #include <map>
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -48,6 +50,12 @@ class Panel : public QWidget {
     int  LeftTwips() const;
     int  TopTwips() const;
     void MoveToTwips(int left, int top);
+
+    /// Puts the upper left corner of the window's frame to this place, in pixels, now or when the panel is shown.
+    void PlaceFrame(const QPoint& corner);
+
+    /// A panel that was hidden comes back where it stood.
+    void setVisible(bool visible) override;
 
     /// Runs the click handler of a control as a user's click would, whatever state the control is in.
     /// False where the control has none.
@@ -134,6 +142,7 @@ class Panel : public QWidget {
     AppContext&           context_;
     std::string           name_;
     bool                  topmost_ = false;
+    std::optional<QPoint> place_;
     Handlers              click_;
     Handlers              doubleClick_;
     Handlers              press_;

@@ -6,6 +6,7 @@
 #include <stdexcept>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 #include <gtest/gtest.h>
@@ -27,11 +28,17 @@ namespace qf::test {
 /// A run of the program on the real desktop, with its settings in memory.
 class ProgramOnDesktop {
   public:
-    ProgramOnDesktop(int generation, const std::string& prefix) : platform_(std::string())
+    /// `startup` are texts of the section "Startup", as an earlier run has left them.
+    ProgramOnDesktop(int generation, const std::string& prefix,
+                     const std::vector<std::pair<std::string, std::string>>& startup = {})
+        : platform_(std::string())
     {
         world::CreateWorldDatabase(folder_.Path() / "qf.mdb");
         store_.Write(core::section::Configuration, "ZarnVer", std::to_string(generation));
         store_.Write(core::section::Configuration, "CommandPrefix", prefix);
+        for (const auto& [key, text] : startup) {
+            store_.Write(core::section::Startup, key, text);
+        }
         environment_.emplace(ui::Environment{store_, platform_, services_, services_, services_, services_, services_,
                                              services_, uniform_, core::ProgramPath(folder_.Path())});
         run_.emplace(*environment_);
