@@ -3,6 +3,7 @@
 #include <QMessageBox>
 #include <QProcess>
 #include <QStandardPaths>
+#include <iostream>
 #include <string_view>
 
 #include "app/quern_picture.h"
@@ -15,18 +16,33 @@
 
 namespace {
 
+constexpr auto Usage = "quernfield-setup [--if-needed | --start]\n\n"
+                       "  --if-needed  ask only where the settings lack the server's generation\n"
+                       "  --start      ask only where that is needed, and then start quernfield\n"
+                       "  --help       this text\n";
+
 struct Options {
     bool onlyIfNeeded = false;
     bool start = false;
+    bool help = false;
+    bool unknown = false;
 };
 
+/// What begins with one dash is left to Qt.
 Options ReadOptions(int argc, char** argv)
 {
     Options options;
     for (int index = 1; index < argc; ++index) {
         const std::string_view argument = argv[index];
-        options.start = options.start || argument == "--start";
-        options.onlyIfNeeded = options.onlyIfNeeded || options.start || argument == "--if-needed";
+        if (argument == "--start") {
+            options.start = options.onlyIfNeeded = true;
+        } else if (argument == "--if-needed") {
+            options.onlyIfNeeded = true;
+        } else if (argument == "--help") {
+            options.help = true;
+        } else if (argument.starts_with("--")) {
+            options.unknown = true;
+        }
     }
     return options;
 }
@@ -55,10 +71,14 @@ bool StartProgram()
 
 // Asks for the settings that the program cannot start without; with --if-needed or --start only where they are
 // missing. --start then starts the program. Ends with 0 when that is done, with 1 when the user cancels or the
-// program cannot be started.
+// program cannot be started, with 2 for an unknown option.
 int main(int argc, char** argv)
 {
     const auto options = ReadOptions(argc, argv);
+    if (options.unknown || options.help) {
+        (options.unknown ? std::cerr : std::cout) << Usage;
+        return options.unknown ? 2 : 0;
+    }
     const auto store = qf::app::OpenSettingsStore();
     const bool asks = !options.onlyIfNeeded || qf::app::IsSetupNeeded(*store);
     if (!asks && !options.start) {
