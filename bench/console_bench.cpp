@@ -4,6 +4,7 @@
 // console_bench [ROUNDS]
 
 #include <QApplication>
+#include <QDir>
 #include <QGridLayout>
 #include <QPushButton>
 #include <QTemporaryDir>
@@ -21,7 +22,6 @@
 #include "support/memory_store.h"
 #include "support/quiet_services.h"
 #include "ui/panel.h"
-#include "ui/parts.h"
 #include "world/database.h"
 
 namespace {
@@ -97,7 +97,7 @@ int main(int argumentCount, char** arguments)
     const int rounds = std::max(1, argumentCount > 1 ? std::atoi(arguments[1]) : 41);
 
     const QTemporaryDir scratch;
-    const auto          folder = std::filesystem::path(ui::Utf8(scratch.path()));
+    const auto          folder = QDir(scratch.path()).filesystemPath();
     world::CreateWorldDatabase(folder / "qf.mdb");
     test::MemoryStore store;
     store.Write(core::section::Configuration, "ZarnVer", "1");

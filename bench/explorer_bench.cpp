@@ -7,6 +7,7 @@
 #include <QAbstractEventDispatcher>
 #include <QApplication>
 #include <QComboBox>
+#include <QDir>
 #include <QTemporaryDir>
 #include <algorithm>
 #include <array>
@@ -28,7 +29,6 @@
 #include "support/memory_store.h"
 #include "support/quiet_services.h"
 #include "ui/panel.h"
-#include "ui/parts.h"
 #include "world/database.h"
 
 namespace {
@@ -246,7 +246,7 @@ int main(int argc, char** argv)
     }
 
     const QTemporaryDir scratch;
-    const auto          folder = fs::path(ui::Utf8(scratch.path()));
+    const auto          folder = QDir(scratch.path()).filesystemPath();
     const auto          client = folder / "client";
     const auto          lists = folder / "ItemExplorer";
     world::CreateWorldDatabase(folder / "qf.mdb");

@@ -4,7 +4,6 @@
 // item_grid_bench [ITEMS]
 
 #include <QApplication>
-#include <QHeaderView>
 #include <QScrollBar>
 #include <QTableView>
 #include <chrono>

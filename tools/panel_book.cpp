@@ -1,16 +1,16 @@
 // Pictures of every panel of the program, and where the controls lie on it: `quernfield-panels`. It walks
 // the program's own list of panels, so that a new panel is in the book as soon as it is in the list.
 
+#include <QAbstractButton>
 #include <QAbstractSlider>
 #include <QApplication>
-#include <QCheckBox>
 #include <QComboBox>
 #include <QDir>
-#include <QRadioButton>
 #include <QTabWidget>
 #include <QTemporaryDir>
 #include <algorithm>
-#include <cstdio>
+#include <cstdlib>
+#include <filesystem>
 #include <fstream>
 #include <iostream>
 #include <map>
@@ -127,13 +127,17 @@ bool Strike(ui::Panel& panel, const std::string& pose)
     return true;
 }
 
-/// Strikes the poses of a picture; false, with a line on the error stream, where one has no control.
+/// Strikes the poses of a picture; false, with a line on the error stream, where one has no control or brings up no
+/// such box.
 bool StrikeAll(ui::Panel& panel, const Picture& picture, std::vector<std::string>& boxes)
 {
     bool complete = true;
     for (const auto& pose : picture.poses) {
         if (pose.starts_with('>')) {
-            complete = std::erase(boxes, pose.substr(1)) == 1 && complete;
+            if (std::erase(boxes, pose.substr(1)) != 1) {
+                std::cerr << panel.Name() << ": no box " << pose.substr(1) << '\n';
+                complete = false;
+            }
         } else if (!Strike(panel, pose)) {
             std::cerr << panel.Name() << ": no control for " << pose << '\n';
             complete = false;
@@ -192,14 +196,11 @@ int main(int argumentCount, char** arguments)
     }
 
     const QTemporaryDir scratch;
-    const auto          folder = std::filesystem::path(ui::Utf8(scratch.path()));
+    const auto          folder = QDir(scratch.path()).filesystemPath();
+    const auto          program = QDir(QApplication::applicationDirPath()).filesystemPath();
     world::CreateWorldDatabase(folder / "qf.mdb");
-    std::filesystem::copy(std::filesystem::path(ui::Utf8(QApplication::applicationDirPath())) / "Templates",
-                          folder / "Templates");
-
-    const auto lists = std::filesystem::path(ui::Utf8(QApplication::applicationDirPath())) / "ItemExplorer";
-    if (std::filesystem::is_directory(lists)) {
-        std::filesystem::copy(lists, folder / "ItemExplorer");
+    for (const auto* shipped : {"Templates", "ItemExplorer"}) {
+        std::filesystem::copy(program / shipped, folder / shipped);
     }
 
     test::MemoryStore store;

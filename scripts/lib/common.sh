@@ -2,9 +2,9 @@
 
 # Packages by purpose, as Debian 12 names them.
 packages_build=(g++ cmake ninja-build ccache pkg-config qt6-base-dev libsdl2-dev libsqlite3-dev libxcb1-dev libxcb-xkb-dev
-    libfontconfig-dev)
+    libfontconfig-dev libgtest-dev libgmock-dev)
 packages_show=(xvfb xauth openbox xdotool imagemagick fonts-dejavu-core)
-packages_test=(libgtest-dev libgmock-dev googletest x11-xkb-utils x11-xserver-utils)
+packages_test=(googletest x11-xkb-utils x11-xserver-utils)
 packages_fuzz=(clang libclang-rt-14-dev)
 packages_linux_package=(dpkg-dev gzip lintian man-db desktop-file-utils appstream binutils)
 packages_coverage=(clang libclang-rt-14-dev llvm)
@@ -48,6 +48,28 @@ ensure_packages() {
     fi
 }
 
+# The version that CMakeLists.txt gives the project.
+project_version() {
+    sed -nE 's/^project\(Quernfield VERSION ([0-9.]+) .*/\1/p' CMakeLists.txt | grep . || {
+        echo "CMakeLists.txt names no version." >&2
+        return 1
+    }
+}
+
+# The program that runs those of Windows, and the server that they share.
+wine_program() {
+    type -P wine64 || type -P /usr/lib/wine/wine64 || type -P wine || {
+        echo "Wine is not there." >&2
+        return 1
+    }
+}
+wine_server() {
+    local wine
+    type -P wineserver || {
+        wine=$(wine_program) && type -P "${wine%/*}/wineserver"
+    }
+}
+
 # Configures a preset where that has not happened and builds the named targets (all without any).
 build_preset() {
     local preset=$1
@@ -88,7 +110,10 @@ start_display() {
     Xvfb -displayfd 7 -screen 0 "$size" -nolisten tcp >/dev/null 2>&1 &
     display_server=$!
     exec 7>&-
-    wait_for 20 "the X server" test -s "$number_file" || return 1
+    wait_for 20 "the X server" test -s "$number_file" || {
+        rm -f "$number_file"
+        return 1
+    }
     DISPLAY=:$(tr -d '\n' <"$number_file")
     export DISPLAY
     rm -f "$number_file"
@@ -101,8 +126,8 @@ stop_display() {
     local process
     for process in "${display_manager:-}" "${display_server:-}"; do
         if [ -n "$process" ]; then
-            kill "$process" 2>/dev/null
-            wait "$process" 2>/dev/null
+            kill "$process" 2>/dev/null || true
+            wait "$process" 2>/dev/null || true
         fi
     done
     display_manager='' display_server=''

@@ -16,12 +16,13 @@ my %unitTests = (
     qf_core         => ['core_tests'],
     qf_client       => ['client_tests'],
     qf_gamedata     => [qw(gamedata_tests explorer_tests clothing_tests dye_tests)],
-    qf_world        => [qw(world_database_tests world_loader_tests world_extraction_tests world_template_tests)],
+    qf_world        => [qw(world_database_tests world_loader_tests world_extraction_tests world_template_tests
+                           world_round_trip_tests)],
     qf_construction => ['construction_tests'],
     qf_items        => ['items_tests'],
     qf_console      => [qw(console_tests shipped_texts_tests)],
     qf_settings     => ['settings_tests'],
-    qf_app_core     => [qw(app_tests options_tests)],
+    qf_app_core     => [qw(app_tests options_tests program_folder_tests)],
     qf_setup_choice => ['setup_tests'],
 );
 my @scenarioBeginnings = (

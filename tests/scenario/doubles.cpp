@@ -194,14 +194,4 @@ void RecordingProcess::OnForeignException()
     }
 }
 
-double ScriptedUniform::Next()
-{
-    if (draws.empty()) {
-        return 0.5;
-    }
-    const double draw = draws.front();
-    draws.pop_front();
-    return draw;
-}
-
 } // namespace qf::scenario

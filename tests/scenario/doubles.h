@@ -2,6 +2,7 @@
 
 #include <cstdint>
 #include <deque>
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -120,15 +121,6 @@ class RecordingProcess final : public ui::ProcessControl {
     Recorder&      recorder_;
     DeliveryWatch& watch_;
     std::string    stray_;
-};
-
-/// Gives the scripted draws, 0.5 beyond them.
-class ScriptedUniform final : public core::UniformGenerator {
-  public:
-    double Next() override;
-    void   SeedFromClock() override {}
-
-    std::deque<double> draws;
 };
 
 } // namespace qf::scenario

@@ -2,9 +2,7 @@
 
 #include <QAbstractButton>
 #include <QAction>
-#include <QLineEdit>
 #include <QMenu>
-#include <QPlainTextEdit>
 #include <QPointer>
 #include <QTabWidget>
 #include <array>
@@ -89,13 +87,15 @@ Driver::Target Driver::Find(std::string_view name) const
     return {panel, object};
 }
 
-bool Driver::Do(const Step& step)
+void Driver::Do(const Step& step)
 {
     if (!IsUserStep(step.verb) && step.verb != Verb::Tick) {
-        return Ask(step);
+        Ask(step);
+        return;
     }
     if (auto* text = SharedText(step.arguments.front())) {
-        return DoOnSharedText(step, *text);
+        DoOnSharedText(step, *text);
+        return;
     }
     const Target target = Find(step.arguments.front());
     if (target.object == nullptr) {
@@ -103,7 +103,6 @@ bool Driver::Do(const Step& step)
     } else if (step.forced || step.verb == Verb::Tick || MayReach(step, target)) {
         Act(step, target);
     }
-    return true;
 }
 
 bool Driver::MayReach(const Step& step, const Target& target)
@@ -245,7 +244,7 @@ void Driver::ActivateButton(ui::Panel& panel, QWidget& widget)
     }
 }
 
-bool Driver::Ask(const Step& step)
+void Driver::Ask(const Step& step)
 {
     const auto& words = step.arguments;
     const auto  ask = [&](auto read) {
@@ -253,10 +252,10 @@ bool Driver::Ask(const Step& step)
         Answer(target.object != nullptr ? read(*target.object, Number(words[1]), Number(words[2])) : std::nullopt);
     };
     switch (step.verb) {
-    case Verb::Get: Get(ParsePropertyReference(words[0]).value()); return true;
-    case Verb::Pixel: ask(ReadPixel); return true;
-    case Verb::AskCell: ask(ReadCell); return true;
-    default: return false;
+    case Verb::Get: Get(ParsePropertyReference(words[0]).value()); return;
+    case Verb::Pixel: ask(ReadPixel); return;
+    case Verb::AskCell: ask(ReadCell); return;
+    default: throw LineError("no panel can do this step");
     }
 }
 
@@ -307,14 +306,13 @@ std::string* Driver::SharedText(std::string_view name)
     return nullptr;
 }
 
-bool Driver::DoOnSharedText(const Step& step, std::string& text)
+void Driver::DoOnSharedText(const Step& step, std::string& text)
 {
     if (!step.forced) {
         recorder_.Add({{"refused"}, {"hidden"}});
     } else if (step.verb == Verb::Type) {
         text = step.arguments[1];
     }
-    return true;
 }
 
 } // namespace qf::scenario

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QObject>
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -21,8 +22,8 @@ class Driver {
   public:
     Driver(ui::AppContext& context, Recorder& recorder) : context_(context), recorder_(recorder) {}
 
-    /// Does a step that acts on a panel or asks one. False where the step is none of these.
-    bool Do(const Step& step);
+    /// Does a step that acts on a panel or asks one. Throws LineError where the step is none of these.
+    void Do(const Step& step);
 
   private:
     struct Target {
@@ -38,12 +39,12 @@ class Driver {
     void   DoubleClick(const Target& target, QWidget& widget);
     void   Click(const Target& target);
     void   ActivateButton(ui::Panel& panel, QWidget& widget);
-    bool   Ask(const Step& step);
+    void   Ask(const Step& step);
     void   Get(const PropertyReference& reference);
     void   Answer(const std::optional<std::string>& value);
 
     std::string* SharedText(std::string_view name);
-    bool         DoOnSharedText(const Step& step, std::string& text);
+    void         DoOnSharedText(const Step& step, std::string& text);
 
     ui::AppContext& context_;
     Recorder&       recorder_;

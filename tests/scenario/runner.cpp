@@ -8,7 +8,6 @@
 #include <sstream>
 #include <vector>
 
-#include "core/runtime_error.h"
 #include "scenario/program_run.h"
 #include "scenario/stage.h"
 

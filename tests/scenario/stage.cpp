@@ -193,8 +193,7 @@ bool Stage::ArrangeScripts(const Step& step)
         dialogs.results.push_back(words[0] == "cancel" ? std::nullopt : std::optional(ReplaceAll(words[0], "/", "\\")));
         return true;
     case Verb::Random:
-        std::transform(words.begin(), words.end(), std::back_inserter(uniform.draws),
-                       [](const auto& word) { return std::stod(word); });
+        std::ranges::for_each(words, [&](const auto& draw) { uniform.Add(std::stod(draw)); });
         return true;
     case Verb::Limit: watch.SetLimit(ParseNumber(words[0]).value()); return true;
     case Verb::Trace: watch.SetTrace(words[0] == "on"); return true;

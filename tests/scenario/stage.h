@@ -9,6 +9,7 @@
 #include "scenario/qfs_file.h"
 #include "scenario/recorder.h"
 #include "scenario/scratch_store.h"
+#include "support/scripted_uniform.h"
 
 namespace qf::scenario {
 
@@ -56,7 +57,7 @@ class Stage {
     KeptClipboard             clipboard;
     RecordingShell            shell{recorder, watch};
     ScriptedComponents        components;
-    ScriptedUniform           uniform;
+    test::ScriptedUniform     uniform;
 
   private:
     bool ArrangeDesktop(const Step& step);

@@ -14,8 +14,6 @@
 #include <QLineEdit>
 #include <QMenuBar>
 #include <QPlainTextEdit>
-#include <QProgressBar>
-#include <QPushButton>
 #include <QRadioButton>
 #include <QScrollArea>
 #include <QStyle>
@@ -24,7 +22,6 @@
 #include <QTabWidget>
 #include <QToolButton>
 #include <algorithm>
-#include <cmath>
 #include <set>
 
 #include "ui/click_label.h"
