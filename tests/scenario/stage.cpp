@@ -16,8 +16,6 @@ namespace fs = std::filesystem;
 
 namespace {
 
-constexpr auto AssistClass = "UOASSIST-TP-MSG-WND";
-
 std::string WithoutSeparatorAtEnd(std::string path)
 {
     while (path.ends_with('\\')) {
@@ -228,7 +226,7 @@ void Stage::SetAssist(std::string_view result)
     platform.RemoveWindow(assist_);
     assist_ = 0;
     if (result != "none") {
-        assist_ = platform.AddWindow(AssistClass, "");
+        assist_ = platform.AddWindow(std::string(client::window_class::Assist), "");
         platform.SetAnswer(assist_, client::message::AssistPosition, Pattern32(std::string(result)));
     }
 }
