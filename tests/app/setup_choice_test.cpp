@@ -87,6 +87,20 @@ TEST(SetupChoice, InitialChoiceIsWhatIsStored)
     EXPECT_EQ(TextsOf(again).uoPath, "\\no such folder\\uo\\");
 }
 
+TEST(SetupChoice, AClientAtTheUsualPlaceComesBeforeThePracticeArt)
+{
+    const test::TempFolder folder;
+    const auto             usual = core::ProgramPath(folder.MakeFolder("client"));
+    const auto             shown = core::Utf8Of(folder.Path() / "client");
+    test::MemoryStore      store;
+    EXPECT_EQ(core::PathOf(InitialChoice(store, "/art", usual).clientFolder), core::PathOf(shown));
+    EXPECT_EQ(InitialChoice(store, "/art", usual + " that is not there").clientFolder, "/art");
+    EXPECT_EQ(InitialChoice(store, "/art", "").clientFolder, "/art");
+    EXPECT_EQ(core::PathOf(InitialChoice(store, "", usual).clientFolder), core::PathOf(shown));
+    store.Write("Configuration", "UOPath", "\\stored\\");
+    EXPECT_EQ(TextsOf(InitialChoice(store, "/art", usual)).uoPath, "\\stored\\");
+}
+
 #ifndef _WIN32
 TEST(SetupChoice, WithoutAStoredFolderTheBoxIsEmpty)
 {

@@ -15,16 +15,6 @@ namespace {
 constexpr std::string_view GenerationKey = "ZarnVer";
 constexpr std::string_view FolderKey = "UOPath";
 
-/// Where a client is usually installed; empty where the system has no such place.
-std::string UsualFolder()
-{
-#ifdef _WIN32
-    return std::string(core::UsualClientFolder) + "\\";
-#else
-    return {};
-#endif
-}
-
 bool IsFolder(std::string_view programPath)
 {
     std::error_code failure;
@@ -47,6 +37,15 @@ std::optional<int> StoredGeneration(core::SettingsStore& store)
 
 } // namespace
 
+std::string UsualFolder()
+{
+#ifdef _WIN32
+    return std::string(core::UsualClientFolder) + "\\";
+#else
+    return {};
+#endif
+}
+
 SetupTexts TextsOf(const SetupChoice& choice)
 {
     SetupTexts texts{std::to_string(choice.generation), core::ProgramPath(core::PathOf(choice.clientFolder))};
@@ -56,17 +55,17 @@ SetupTexts TextsOf(const SetupChoice& choice)
     return texts;
 }
 
-SetupChoice InitialChoice(core::SettingsStore& store, std::string_view practiceArt)
+SetupChoice InitialChoice(core::SettingsStore& store, std::string_view practiceArt, const std::string& usualFolder)
 {
     SetupChoice choice;
     choice.generation = StoredGeneration(store) == 0 ? 0 : 1;
 
     const auto stored = store.Find(core::section::Configuration, FolderKey);
-    if (!stored && !practiceArt.empty() && !IsFolder(UsualFolder())) {
+    if (!stored && !practiceArt.empty() && !IsFolder(usualFolder)) {
         choice.clientFolder = practiceArt;
         return choice;
     }
-    choice.clientFolder = core::Utf8Of(core::HostPath(stored ? *stored : UsualFolder()));
+    choice.clientFolder = core::Utf8Of(core::HostPath(stored ? *stored : usualFolder));
     return choice;
 }
 

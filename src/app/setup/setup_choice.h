@@ -33,10 +33,14 @@ struct SetupPlaces {
 /// configuration panel.
 SetupTexts TextsOf(const SetupChoice& choice);
 
+/// Where a client is usually installed, in the program's form; empty where the system has no such place.
+std::string UsualFolder();
+
 /// What the dialog shows at first: what the store holds, and 0.9x.x where it holds no generation. A store without
-/// a folder gives the usual one where the system has such; `practiceArt` (in the system's form, empty where there
-/// is none) stands in for a client that is not there.
-SetupChoice InitialChoice(core::SettingsStore& store, std::string_view practiceArt = {});
+/// a folder gives the usual one; `practiceArt` (in the system's form, empty where there is none) stands in for a client
+/// that is not there.
+SetupChoice InitialChoice(core::SettingsStore& store, std::string_view practiceArt = {},
+                          const std::string& usualFolder = UsualFolder());
 
 /// Whether the chosen folder lacks the files that pictures of tiles are drawn from. An empty one is chosen by who wants
 /// none, and lacks nothing.
