@@ -303,10 +303,13 @@ void Panel::showEvent(QShowEvent* event)
 void Panel::hideEvent(QHideEvent* event)
 {
     QWidget::hideEvent(event);
-    if (!event->spontaneous()) {
+    if (event->spontaneous()) {
+        return;
+    }
+    if (!isMinimized()) {
         place_ = pos();
     }
-    if (!event->spontaneous() && isModal()) {
+    if (isModal()) {
         setWindowModality(Qt::NonModal);
         RunAfterModal();
     }

@@ -5,6 +5,7 @@
 #include <gtest/gtest.h>
 #include <thread>
 
+#include "core/twips.h"
 #include "desktop/program_on_desktop.h"
 
 // Where panels stand on a desktop whose window manager puts frames around them: a panel comes to the place that is
@@ -13,10 +14,9 @@
 namespace qf {
 namespace {
 
+using core::TwipsPerPixel;
 using test::Press;
 using test::ProgramOnDesktop;
-
-constexpr int TwipsPerPixel = 15;
 
 /// Where the panel's frame stands once the window manager has framed it and nothing moves any more.
 QPoint RestingPlace(const ui::Panel& panel)
@@ -43,6 +43,16 @@ QPoint RestingPlace(const ui::Panel& panel)
     return panel.pos();
 }
 
+/// A panel that is open and was moved, as a user does it.
+ui::Panel& OpenAt(ProgramOnDesktop& program, std::string_view name, const QPoint& place)
+{
+    auto& panel = program.Open(name);
+    RestingPlace(panel);
+    panel.move(place);
+    EXPECT_EQ(RestingPlace(panel), place);
+    return panel;
+}
+
 class PlaceOnDesktop : public testing::Test {
   protected:
     test::WindowManager manager_;
@@ -63,10 +73,7 @@ TEST_F(PlaceOnDesktop, TheMainPanelOpensWhereItWasLeft)
 TEST_F(PlaceOnDesktop, TheMainPanelComesBackWhereItStood)
 {
     ProgramOnDesktop program(1, "'");
-    auto&            main = program.Context().panels.Touch("frmMain");
-    RestingPlace(main);
-    main.move(210, 150);
-    ASSERT_EQ(RestingPlace(main), QPoint(210, 150));
+    auto&            main = OpenAt(program, "frmMain", {210, 150});
     for (int round = 0; round < 2; ++round) {
         Press(main, "cmdFloors");
         auto& floors = program.Context().panels.Touch("frmFloors");
@@ -80,10 +87,7 @@ TEST_F(PlaceOnDesktop, TheMainPanelComesBackWhereItStood)
 TEST_F(PlaceOnDesktop, ANeighbourOpensWhereThePanelStood)
 {
     ProgramOnDesktop program(1, "'");
-    auto&            floors = program.Open("frmFloors");
-    RestingPlace(floors);
-    floors.move(90, 120);
-    ASSERT_EQ(RestingPlace(floors), QPoint(90, 120));
+    auto&            floors = OpenAt(program, "frmFloors", {90, 120});
     for (int round = 0; round < 2; ++round) {
         Press(floors, "Command6");
         auto& walls = program.Context().panels.Touch("frmWalls");
@@ -96,10 +100,7 @@ TEST_F(PlaceOnDesktop, ANeighbourOpensWhereThePanelStood)
 TEST_F(PlaceOnDesktop, TheConsoleOpensWhereItWasLeft)
 {
     ProgramOnDesktop program(1, "'");
-    auto&            console = program.Open("frmGMCommands");
-    RestingPlace(console);
-    console.move(120, 140);
-    ASSERT_EQ(RestingPlace(console), QPoint(120, 140));
+    OpenAt(program, "frmGMCommands", {120, 140});
     for (int round = 0; round < 2; ++round) {
         Press(program.Context().panels.Touch("frmGMCommands"), "cmdReturn");
         EXPECT_EQ(RestingPlace(program.Open("frmGMCommands")), QPoint(120, 140)) << "round " << round;
@@ -109,10 +110,7 @@ TEST_F(PlaceOnDesktop, TheConsoleOpensWhereItWasLeft)
 TEST_F(PlaceOnDesktop, APanelStaysWhereItIsWhenItGoesOnTop)
 {
     ProgramOnDesktop program(1, "'");
-    auto&            floors = program.Open("frmFloors");
-    RestingPlace(floors);
-    floors.move(90, 120);
-    ASSERT_EQ(RestingPlace(floors), QPoint(90, 120));
+    auto&            floors = OpenAt(program, "frmFloors", {90, 120});
     floors.SetStayOnTop(true);
     EXPECT_EQ(RestingPlace(floors), QPoint(90, 120));
     floors.SetStayOnTop(false);
